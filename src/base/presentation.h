@@ -1,0 +1,47 @@
+// What the rules ask of the screen, the loudspeaker and the person. Only numbers, letters and texts cross
+// this seam. The window implements it; base/silent ignores it; tests record it. One implementation is
+// chosen when linking.
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string_view>
+
+#include "base/board_position.h"
+
+namespace quillet {
+
+// Status lines. `line` is 1..6, 1 at the top.
+void ShowStatusLine(int line, std::string_view text);
+
+// Single squares. A letter is a tile code, "[" for a blank.
+void DrawBoardTile(int row, int col, char letter);
+void DrawPlayedBlank(int row, int col);  // the letter a played blank stands for, over its blank glyph
+void FlashSquares(std::span<const BoardPosition> squares);  // shown inverted and normal, twice
+
+// Larger areas, redrawn from the game as it stands.
+void RefreshForTurn();      // a turn begins: opponent's picture, DONE or MOVE, the panels
+void UpdateScorePreview();  // the live "Score = " line while a human arranges tiles
+void RedrawPanels();        // every player's row, the clock, the information panel
+void RedrawWindow();
+
+// The computer player to move shows one of its opponent's pictures: 2 pleased, 3 displeased.
+void ShowOpponentMood(int mood);
+
+void ShowWaitCursor();
+void ShowArrowCursor();
+
+// Plays a wave file to its end: in the sounds folder, or else relative to the opponents' folder. Silent
+// when sounds are off or the file is missing.
+void PlaySoundFile(bool inSoundsFolder, std::string_view name);
+
+// Asks which letter the blank placed on that square stands for; none when the player cancels.
+std::optional<char> AskBlankLetter(int row, int col);
+
+// The dialog in which the players of a new game are chosen; false when cancelled.
+bool ChoosePlayers();
+
+// Is the mouse pointer over the "Statistics" label?
+bool PointerIsOverStatistics();
+
+}  // namespace quillet

@@ -1,0 +1,22 @@
+// The presentation that shows nothing and answers every question with "no": for work without a window.
+#include "base/presentation.h"
+
+namespace quillet {
+
+void ShowStatusLine(int, std::string_view) {}
+void DrawBoardTile(int, int, char) {}
+void DrawPlayedBlank(int, int) {}
+void FlashSquares(std::span<const BoardPosition>) {}
+void RefreshForTurn() {}
+void UpdateScorePreview() {}
+void RedrawPanels() {}
+void RedrawWindow() {}
+void ShowOpponentMood(int) {}
+void ShowWaitCursor() {}
+void ShowArrowCursor() {}
+void PlaySoundFile(bool, std::string_view) {}
+std::optional<char> AskBlankLetter(int, int) { return std::nullopt; }
+bool ChoosePlayers() { return false; }
+bool PointerIsOverStatistics() { return false; }
+
+}  // namespace quillet

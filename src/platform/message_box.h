@@ -1,0 +1,20 @@
+// Modal message boxes and the beep. Each box blocks until the user closes it.
+#pragma once
+
+#include <string_view>
+
+namespace quillet {
+
+enum class MessageKind { Warning, Fatal };
+
+// Sounds the beep of its kind and shows the text with one button: "OK" under a warning icon, "Quit" under
+// a stop icon.
+void ShowMessageBox(MessageKind kind, std::string_view title, std::string_view text);
+
+// Shows the text with the buttons Yes and No; true only for Yes.
+bool ShowQuestionBox(std::string_view title, std::string_view text, bool yesIsDefault);
+
+// The default beep: a refused action.
+void Beep();
+
+}  // namespace quillet

@@ -1,0 +1,38 @@
+#include "resources/strings.h"
+
+#include <algorithm>
+#include <array>
+
+namespace quillet {
+namespace {
+
+struct StringEntry {
+    StringId id;
+    std::string_view text;
+};
+
+// Folder paths are written with "\" throughout the program; the file layer turns them into its own.
+constexpr std::array kStrings{
+    StringEntry{StringId::ProgramTitle, "Quillet"},
+    StringEntry{StringId::ScenariosFolder, "Scenarios"},
+    StringEntry{StringId::OpponentsFolder, "Opponents"},
+    StringEntry{StringId::StatisticsFolder, "Statistics"},
+    StringEntry{StringId::WordListsFolder, "Word Lists"},
+    StringEntry{StringId::DefinitionsFolder, "Definitions"},
+    StringEntry{StringId::PrefsFolder, "Data\\Prefs"},
+    StringEntry{StringId::GraphicsFolder, "Data\\Graphics"},
+    StringEntry{StringId::SoundsFolder, "Data\\Sounds"},
+    StringEntry{StringId::HelpFolder, "Data\\Help"},
+    // One character per letter A to Z, then the blank: "0" + the number.
+    StringEntry{StringId::DefaultLetterValues, "1332142418513113:11114484:0"},
+    StringEntry{StringId::DefaultLetterCounts, "9224<2329114268216464221212"},
+};
+
+}  // namespace
+
+std::string_view ResourceString(StringId id) {
+    const auto entry = std::ranges::find(kStrings, id, &StringEntry::id);
+    return entry == kStrings.end() ? std::string_view{} : entry->text;
+}
+
+}  // namespace quillet

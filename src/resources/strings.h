@@ -1,0 +1,26 @@
+// The string table: the program's title, the names of its folders and the texts of a new scenario.
+#pragma once
+
+#include <string_view>
+
+namespace quillet {
+
+enum class StringId {
+    ProgramTitle = 1,
+    ScenariosFolder = 251,
+    OpponentsFolder = 252,
+    StatisticsFolder = 253,
+    WordListsFolder = 254,
+    DefinitionsFolder = 255,
+    PrefsFolder = 260,
+    GraphicsFolder = 261,
+    SoundsFolder = 262,
+    HelpFolder = 263,
+    DefaultLetterValues = 8300,
+    DefaultLetterCounts = 8301,
+};
+
+// The text of that id; empty when the table has none.
+std::string_view ResourceString(StringId id);
+
+}  // namespace quillet

@@ -1,0 +1,63 @@
+#include "support/recording_presentation.h"
+
+#include <algorithm>
+
+#include "base/presentation.h"
+
+namespace quillet {
+namespace {
+
+void Record(const std::string& call) {
+    recorded.calls.push_back(call);
+    const auto action = recorded.whenCalled.find(call.substr(0, call.find(' ')));
+    if (action != recorded.whenCalled.end()) action->second();
+}
+
+std::string Square(int row, int col) { return " " + std::to_string(row) + " " + std::to_string(col); }
+
+}  // namespace
+
+int RecordedPresentation::Count(const std::string& beginning) const {
+    return static_cast<int>(
+        std::ranges::count_if(calls, [&](const std::string& call) { return call.starts_with(beginning); }));
+}
+
+void ShowStatusLine(int line, std::string_view text) {
+    Record("ShowStatusLine " + std::to_string(line) + " " + std::string(text));
+}
+void DrawBoardTile(int row, int col, char letter) {
+    Record("DrawBoardTile" + Square(row, col) + " " + letter);
+}
+void DrawPlayedBlank(int row, int col) { Record("DrawPlayedBlank" + Square(row, col)); }
+void FlashSquares(std::span<const BoardPosition> squares) {
+    std::string call = "FlashSquares";
+    for (const BoardPosition& square : squares) call += Square(square.row, square.col);
+    Record(call);
+}
+void RefreshForTurn() { Record("RefreshForTurn"); }
+void UpdateScorePreview() { Record("UpdateScorePreview"); }
+void RedrawPanels() { Record("RedrawPanels"); }
+void RedrawWindow() { Record("RedrawWindow"); }
+void ShowOpponentMood(int mood) { Record("ShowOpponentMood " + std::to_string(mood)); }
+void ShowWaitCursor() { Record("ShowWaitCursor"); }
+void ShowArrowCursor() { Record("ShowArrowCursor"); }
+void PlaySoundFile(bool inSoundsFolder, std::string_view name) {
+    Record(std::string("PlaySoundFile ") + (inSoundsFolder ? "sounds " : "opponents ") + std::string(name));
+}
+std::optional<char> AskBlankLetter(int row, int col) {
+    Record("AskBlankLetter" + Square(row, col));
+    if (recorded.blankLetters.empty()) return std::nullopt;
+    const std::optional<char> answer = recorded.blankLetters.front();
+    recorded.blankLetters.pop_front();
+    return answer;
+}
+bool ChoosePlayers() {
+    Record("ChoosePlayers");
+    return recorded.playersChosen;
+}
+bool PointerIsOverStatistics() {
+    Record("PointerIsOverStatistics");
+    return recorded.pointerOverStatistics;
+}
+
+}  // namespace quillet

@@ -1,0 +1,25 @@
+// The presentation that writes down what the rules asked of it, and answers as a test has told it to.
+#pragma once
+
+#include <deque>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace quillet {
+
+struct RecordedPresentation {
+    std::vector<std::string> calls;                // "DrawBoardTile 8 8 A", in order
+    std::deque<std::optional<char>> blankLetters;  // answers to AskBlankLetter; cancelled when it runs out
+    bool playersChosen = false;                    // the answer of ChoosePlayers
+    bool pointerOverStatistics = false;
+    std::map<std::string, void (*)()> whenCalled;  // lets a test act in the middle, by the call's first word
+
+    // How many recorded calls begin with that text.
+    int Count(const std::string& beginning) const;
+};
+
+inline RecordedPresentation recorded;
+
+}  // namespace quillet
