@@ -1,0 +1,118 @@
+#include "store/item_store.h"
+
+#include <gmock/gmock.h>
+
+#include <cerrno>
+
+#include "base/messages.h"
+#include "support/temp_folder.h"
+
+namespace quillet {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class ItemStores : public TempFolder {
+  protected:
+    ItemStores() {
+        scenarioStore.member = "Classic";
+        prefsStore.open = false;
+        MakeFolder("Scenarios/Classic");
+        MakeFolder("Data/Prefs");
+    }
+    void SetItem(int id, const std::string& value) {
+        WriteFile("Scenarios/Classic/" + std::to_string(id) + ".str", value);
+    }
+    std::string Item(int id) { return ReadFile("Scenarios/Classic/" + std::to_string(id) + ".str"); }
+};
+
+TEST_F(ItemStores, NumbersAreStrictAndFallBackToZero) {
+    struct Case {
+        std::string stored;
+        int asShort, asLong;
+    };
+    for (const Case& c :
+         {Case{"12", 12, 12}, Case{"12\r\n", 0, 0}, Case{"12 ", 0, 0}, Case{" 7", 7, 7}, Case{"+7", 7, 7},
+          Case{"40000", 0, 40000}, Case{"-32768", -32768, -32768}, Case{"-32769", 0, -32769},
+          Case{"2147483647", 0, 2147483647}, Case{"2147483648", 0, 0}, Case{"-2147483649", 0, 0},
+          Case{"99999999999999999999", 0, 0}, Case{"", 0, 0}, Case{"-", 0, 0}, Case{"- 7", 0, 0},
+          Case{"0x1", 0, 0}}) {
+        SetItem(350, c.stored);
+        EXPECT_EQ(ReadItemShort(scenarioStore, 350), c.asShort) << c.stored;
+        EXPECT_EQ(ReadItemLong(scenarioStore, 350), c.asLong) << c.stored;
+    }
+    EXPECT_EQ(ReadItemLong(scenarioStore, 351), 0) << "a missing item";
+    EXPECT_THAT(TakeMessages(), IsEmpty());
+}
+
+TEST_F(ItemStores, TextsAreCutAtTheBufferAndBooleansLookAtOneCharacter) {
+    SetItem(199, "twelve\r\n\xE9tc");
+    EXPECT_EQ(ReadItemText<31>(scenarioStore, 199), "twelve\r\n\xE9tc");
+    EXPECT_EQ(ReadItemText<4>(scenarioStore, 199), "twel");
+    SetItem(199, std::string("ab\0cd", 5));
+    EXPECT_EQ(ReadItemText<31>(scenarioStore, 199), "ab");
+    for (const auto& [stored, read] :
+         {std::pair{"T", true}, {"Tea", true}, {"t", false}, {" T", false}, {"", false}}) {
+        SetItem(601, stored);
+        EXPECT_EQ(ReadItemBoolean(scenarioStore, 601), read) << stored;
+    }
+}
+
+TEST_F(ItemStores, WritingStoresTheValueAndNothingElse) {
+    SetItem(199, "a longer old text");
+    WriteItemText(scenarioStore, 199, "");
+    WriteItemNumber(scenarioStore, -5, -1000);
+    WriteItemBoolean(scenarioStore, 601, true);
+    EXPECT_EQ(Item(199), "");
+    EXPECT_EQ(Item(-5), "-1000");
+    EXPECT_EQ(Item(601), "T");
+}
+
+TEST_F(ItemStores, EachStoreReportsInItsOwnWords) {
+    struct Case {
+        ItemStore& store;
+        std::string message;
+    };
+    prefsStore.open = true;
+    opponentStore.member = "Bo";
+    std::filesystem::remove_all(root / "Scenarios");
+    std::filesystem::remove_all(root / "Data");
+    const std::string error = "  Error: " + std::to_string(ENOENT);
+    for (const Case& c :
+         {Case{prefsStore, "Could not create prefs file: Data\\Prefs\\402.str" + error},
+          Case{scenarioStore, "Could not create scenario file: Scenarios\\Classic\\402.str" + error},
+          Case{opponentStore, "Could not save opponent info: Opponents\\Bo\\402.str" + error}}) {
+        EXPECT_THROW(WriteItemText(c.store, 402, "x"), ProgramEnd);
+        EXPECT_THAT(TakeMessages(), ElementsAre(c.message));
+    }
+    EXPECT_THROW(ReadItemLong(prefsStore, 800), ProgramEnd);
+    EXPECT_THAT(TakeMessages(), ElementsAre("Could not read prefs file: Data\\Prefs\\800.str"));
+    EXPECT_EQ(ReadItemText<31>(opponentStore, 100), "");
+    EXPECT_THAT(TakeMessages(), IsEmpty());
+}
+
+TEST_F(ItemStores, ClosedStoreReadsAsEmptyAndWritesNothing) {
+    WriteFile("Data/Prefs/800.str", "5");
+    WriteItemNumber(prefsStore, 800, 7);
+    EXPECT_EQ(ReadItemLong(prefsStore, 800), 0);
+    EXPECT_EQ(ReadItemLong(prefsStore, 801), 0) << "nor is a missing item fatal";
+    EXPECT_EQ(ReadFile("Data/Prefs/800.str"), "5");
+}
+
+TEST_F(ItemStores, ScenarioOpensOnlyInTheKnownVersion) {
+    EXPECT_FALSE(OpenScenario(Purpose::Reading)) << "no version item";
+    EXPECT_THAT(TakeMessages(), IsEmpty());
+    for (const char* unknown : {"", "0", "2"}) {
+        SetItem(kVersionItem, unknown);
+        EXPECT_FALSE(OpenScenario(Purpose::Changing));
+        EXPECT_THAT(TakeMessages(), ElementsAre("Unexpected version in scenario!"));
+        EXPECT_EQ(Item(kVersionItem), unknown);
+    }
+    SetItem(kVersionItem, "1 and more");
+    EXPECT_TRUE(OpenScenario(Purpose::Reading));
+    EXPECT_EQ(Item(kVersionItem), "1") << "rewritten each time";
+}
+
+}  // namespace
+}  // namespace quillet
