@@ -1,0 +1,69 @@
+#include "words/word_list_builder.h"
+
+#include <gmock/gmock.h>
+
+#include <random>
+
+#include "platform/headless/headless.h"
+#include "words/graph_check.h"
+
+namespace quillet {
+namespace {
+
+using testing::ElementsAre;
+
+TEST(WordListBuilder, TakesOnlyCleanLowerCaseWords) {
+    EXPECT_THAT(WordsOfText("the Cat sat, on mat"), ElementsAre("THE", "ON", "MAT"));
+    EXPECT_THAT(WordsOfText("a\tb\rc\nd\r\ne"), ElementsAre("A", "B", "C", "D", "E"));
+    EXPECT_THAT(WordsOfText(" x2 2x x-x xX x\xE9 \"x\" ok  ok "), ElementsAre("OK", "OK"));
+    EXPECT_THAT(WordsOfText("abcdefghijklmno abcdefghijklmnop"), ElementsAre("ABCDEFGHIJKLMNO"));
+    EXPECT_THAT(WordsOfText(""), ElementsAre());
+}
+
+TEST(WordListBuilder, HoldsWhatAddingWordByWordHolds) {
+    std::mt19937 random(3);
+    for (const std::size_t maxLength : {0U, 3U, 16U}) {
+        std::vector<Word> words(maxLength == 0 ? 0 : 3000);
+        Dict added;
+        for (Word& word : words) {
+            for (auto letters = 1 + random() % maxLength; letters > 0; --letters) {
+                word.Append(static_cast<char>('A' + random() % (maxLength == 3 ? 26 : 2)));
+            }
+            AddWord(added, word);
+        }
+        Dict built;
+        ASSERT_TRUE(BuildDict(built, words));
+        EXPECT_EQ(FindBrokenInvariant(built), std::nullopt);
+        EXPECT_EQ(built.numedges, added.numedges);
+        EXPECT_EQ(TextOfWords(built), TextOfWords(added));
+        EXPECT_FALSE(DictChanged(built));
+    }
+}
+
+TEST(WordListBuilder, ListsLieInTheOrderOfAWalk) {
+    Dict dict;
+    BuildDict(dict, {"B", "AC", "AB", "BYE", "AC"});
+    std::string letters;
+    for (std::size_t i = 0; i < 6; ++i) letters += dict.edges[i].letter();
+    EXPECT_EQ(letters, "ABBCYE");
+    EXPECT_EQ(TextOfWords(dict), "ab\r\nac\r\nb\r\nbye\r\n");
+}
+
+TEST(WordListBuilder, TooManyEdgesLeaveTheDictAsItWas) {
+    headless = {};
+    std::vector<Word> words(26 * 26 * 26 * 20);
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        for (std::size_t rest = i; words[i].size() < 4; rest /= 26)
+            words[i].Append(static_cast<char>('A' + rest % 26));
+        words[i].Append("QQQQQQQQQQQ");  // with the letter before, 12 edges that no other word shares
+    }
+    Dict dict;
+    AddWord(dict, "OLD");
+    EXPECT_FALSE(BuildDict(dict, words));
+    ASSERT_EQ(headless.messages.size(), 1U);
+    EXPECT_EQ(headless.messages[0].text, "Too many words!");
+    EXPECT_TRUE(IsWord(dict, "OLD"));
+}
+
+}  // namespace
+}  // namespace quillet

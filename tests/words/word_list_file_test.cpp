@@ -1,0 +1,190 @@
+#include "words/word_list_file.h"
+
+#include <gmock/gmock.h>
+
+#include <random>
+#include <tuple>
+
+#include "base/messages.h"
+#include "store/preferences.h"
+#include "support/recording_presentation.h"
+#include "support/temp_folder.h"
+#include "words/dict.h"
+#include "words/word_list_builder.h"
+
+namespace quillet {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+// The list of AB, AC and B.
+std::string SmallFile() {
+    std::string file("\x02\0\0\0\x03\0\0\0\x04\0\0\0\x10\0\0\0\x02\0\0\0\x01\0\0\0", 24);
+    file.append(300 - file.size(), '\0');
+    return file.append("\x02\0\0\x41\0\0\xC0\x42\0\0\x40\x42\0\0\xC0\x43", 16);
+}
+
+std::string EmptyFile() { return "\x02" + std::string(299, '\0'); }
+
+class WordListFile : public TempFolder {
+  protected:
+    WordListFile() {
+        recorded = {};
+        mainDict = {};
+        wordList = {};
+        preferences = {};
+        ClosePrefs();
+        MakeFolder("Data/Prefs");
+        LoadPreferences();
+        MakeFolder("Word Lists");
+    }
+
+    void WriteList(const std::string& name, const std::string& bytes) {
+        WriteFile("Word Lists/" + name + ".qld", bytes);
+    }
+    std::string ListBytes(const std::string& name) { return ReadFile("Word Lists/" + name + ".qld"); }
+
+    void LoadSmallList() {
+        WriteList("Small", SmallFile());
+        ASSERT_TRUE(LoadWordList("Small"));
+    }
+};
+
+TEST_F(WordListFile, SavedAndLoadedBytesAreTheSame) {
+    for (const char* word : {"AB", "AC", "B"}) AddWord(mainDict, word);
+    SaveWordList("Small");
+    EXPECT_EQ(ListBytes("Small"), SmallFile());
+    EXPECT_TRUE(DictChanged(mainDict)) << "saving leaves the counters to the caller";
+
+    const auto revision = mainDict.revision;
+    ASSERT_TRUE(LoadWordList("small"));
+    EXPECT_TRUE(mainDict.revision != revision && mainDict.spareEdges == 200 && !DictChanged(mainDict));
+    EXPECT_TRUE(IsWord(mainDict, "AC"));
+    EXPECT_EQ(wordList.current, "small");
+    SaveWordList("Again");
+    EXPECT_EQ(ListBytes("Again"), SmallFile());
+    EXPECT_THAT(recorded.calls, ElementsAre("ShowWaitCursor", "ShowArrowCursor"));
+}
+
+TEST_F(WordListFile, EmptyListIsItsHeader) {
+    WriteList("Empty", EmptyFile());
+    ASSERT_TRUE(LoadWordList("Empty"));
+    EXPECT_EQ(mainDict.spareEdges, 20000);
+    EXPECT_TRUE(AddWord(mainDict, "FIRST"));
+}
+
+TEST_F(WordListFile, EachFaultIsNamedAndTheFirstOneWins) {
+    LoadSmallList();
+    // From the last check to the first: each damage is added to those before it and is then the one reported.
+    const std::tuple<std::size_t, int, const char*> damages[] = {
+        {306, 0x80, "Bad edges in \"Small\"!"},
+        {299, 1, "Bad reserved byte in \"Small\"!"},
+        {119, 0x80, "Bad numwords or sum array in \"Small\"!"},
+        {15, 0x80, "Bad numedges or triesize in \"Small\"!"},  // negative
+        {11, 0x80, "Bad numedges or triesize in \"Small\"!"},  // both negative
+        {11, 0x40, "Bad numedges or triesize in \"Small\"!"},  // 4 * numedges wraps to triesize
+        {0, 1, "Bad format id in \"Small\"!"},
+    };
+    for (const auto& [offset, byte, fault] : damages) {
+        SetByte("Word Lists/Small.qld", offset, static_cast<char>(byte));
+        EXPECT_THROW(LoadWordList("Small"), ProgramEnd);
+        EXPECT_THAT(TakeMessages(), ElementsAre(fault)) << offset;
+        EXPECT_TRUE(mainDict.numwords == 3 && IsWord(mainDict, "AB")) << "the list in memory stays whole";
+    }
+}
+
+TEST_F(WordListFile, CutOffAnywhereEndsUnexpectedly) {
+    WriteList("Small", SmallFile());
+    for (std::size_t size = SmallFile().size(); size-- > 0;) {
+        Shorten("Word Lists/Small.qld", size);
+        EXPECT_THROW(LoadWordList("Small"), ProgramEnd);
+        EXPECT_THAT(TakeMessages(), ElementsAre("\"Small\" ended unexpectedly!")) << size;
+    }
+}
+
+// Whatever is in the file: it loads and its words can be walked, or the program ends with one message.
+TEST_F(WordListFile, RandomDamageNeverGetsIntoMemory) {
+    BuildDict(mainDict, {"AT", "ATE", "BAT", "BATE", "BATED", "CAT", "CATS", "DOG", "ZOO"});
+    SaveWordList("Sound");
+    const std::string sound = ListBytes("Sound");
+    std::mt19937 random(11);
+    for (int round = 0; round < 3000; ++round) {
+        std::string bytes = sound;
+        for (auto damage = random() % 3; damage < 3; ++damage) {
+            char& byte =
+                bytes[random() % 2 == 0 ? random() % bytes.size() : bytes.size() - 1 - random() % 60];
+            byte = static_cast<char>(random() % 4 == 0 ? random()
+                                                       : static_cast<unsigned>(byte) ^ 1U << random() % 8);
+        }
+        WriteList("Sound", bytes);
+        try {
+            LoadWordList("Sound");
+        } catch (const ProgramEnd&) {
+            EXPECT_EQ(TakeMessages().size(), 1U);
+        }
+        for (std::int32_t n = 0; n < mainDict.numwords; ++n) {
+            EXPECT_EQ(FindWordIndex(mainDict, GetWord(mainDict, n)), n);
+        }
+    }
+}
+
+TEST_F(WordListFile, MissingListKeepsTheOldOne) {
+    LoadSmallList();
+    EXPECT_FALSE(LoadWordList("Gone"));
+    EXPECT_FALSE(SelectWordList(true, "Gone"));
+    EXPECT_THAT(TakeMessages(), ElementsAre("Cannot open word list: \"Word Lists\\Gone.qld\"",
+                                            "\"Gone.qld\" not found in the Word Lists folder!"));
+    EXPECT_EQ(wordList.current, "Small");
+    EXPECT_EQ(preferences.wordList, "Words");
+    EXPECT_TRUE(SelectWordList(true, wordList.current));
+    EXPECT_EQ(ReadFile("Data/Prefs/3001.str"), "Small");
+}
+
+TEST_F(WordListFile, ChangesAreOfferedForSavingUntilTheyAreSaved) {
+    LoadSmallList();
+    OfferToSaveWordList();
+    EXPECT_THAT(headless.questions, IsEmpty());
+    AddWord(mainDict, "CAB");
+    headless.answers = {false, true, true};
+    OfferToSaveWordList();
+    EXPECT_EQ(ListBytes("Small"), SmallFile());
+    EXPECT_EQ(headless.questions.back().text, "Save changes to \"Small\"?");
+    EXPECT_TRUE(headless.questions.back().yesIsDefault);
+    std::filesystem::rename(root / "Word Lists", root / "Elsewhere");
+    OfferToSaveWordList();
+    EXPECT_THAT(TakeMessages(), ElementsAre("Cannot save word list: \"Word Lists\\Small.qld\""));
+    EXPECT_TRUE(DictChanged(mainDict));
+    std::filesystem::rename(root / "Elsewhere", root / "Word Lists");
+    OfferToSaveWordList();
+    EXPECT_FALSE(DictChanged(mainDict));
+    EXPECT_GT(ListBytes("Small").size(), SmallFile().size());
+}
+
+TEST_F(WordListFile, OpponentPlaysWithItsOwnListAndTheOldOneComesBack) {
+    LoadSmallList();
+    WriteList("Own", EmptyFile());
+    WordListName previous;
+    for (const char* same : {"", "SMALL", "Gone"}) EXPECT_FALSE(UseOpponentWordList(same, previous)) << same;
+    ASSERT_TRUE(UseOpponentWordList("Own", previous));
+    EXPECT_EQ(mainDict.numwords, 0);
+    RestoreWordList(previous);
+    EXPECT_EQ(mainDict.numwords, 3);
+    EXPECT_EQ(wordList.current, "Small");
+    EXPECT_EQ(preferences.wordList, "Words");
+    EXPECT_THAT(TakeMessages(), IsEmpty());
+}
+
+TEST_F(WordListFile, ShippedListsAreSoundAndSensible) {
+    SetDataFolder((std::filesystem::path(__FILE__).parent_path() / "../../assets").string());
+    for (const char* name : {"Common", "Words", "Large"}) {
+        ASSERT_TRUE(LoadWordList(name));
+        for (const char* word : {"CAT", "CATS", "PLAYED", "QUIZZES", "COLOR", "COLOURS", "OK"}) {
+            EXPECT_TRUE(IsWord(mainDict, word)) << word << " in " << name;
+        }
+        for (const char* word : {"I", "KB", "CSC", "ASDF"}) EXPECT_FALSE(IsWord(mainDict, word)) << word;
+    }
+}
+
+}  // namespace
+}  // namespace quillet
