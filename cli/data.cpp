@@ -1,0 +1,82 @@
+#include "data.h"
+
+#include <array>
+#include <filesystem>
+#include <fstream>
+#include <optional>
+#include <sstream>
+#include <system_error>
+
+#include "command.h"
+#include "store/files.h"
+#include "words/graph_check.h"
+#include "words/word_list_file.h"
+
+namespace quillet {
+namespace {
+
+namespace fs = std::filesystem;
+
+bool HoldsWordLists(const fs::path& folder) {
+    std::error_code ignored;
+    return fs::is_directory(folder / "Word Lists", ignored);
+}
+
+std::string FindDataFolder() {
+    std::error_code ignored;
+    const fs::path program = fs::read_symlink("/proc/self/exe", ignored).parent_path();
+    const std::array candidates{fs::path("."), fs::path("assets"), program / "../../../assets",
+                                program / "../share/quillet"};
+    for (const fs::path& folder : candidates) {
+        if (HoldsWordLists(folder)) return folder;
+    }
+    return ".";
+}
+
+void UseDataFolder(const std::string& folder) {
+    if (!HoldsWordLists(folder)) throw CommandFailed{folder + " holds no folder \"Word Lists\""};
+    SetDataFolder(folder);
+}
+
+bool IsPath(const std::string& nameOrPath) {
+    return nameOrPath.find('/') != std::string::npos || nameOrPath.ends_with(".qld");
+}
+
+}  // namespace
+
+void AddDataOption(CLI::App& app) {
+    SetDataFolder(FindDataFolder());
+    app.add_option_function<std::string>("--data", UseDataFolder,
+                                         "Folder that holds the folder \"Word Lists\"")
+        ->type_name("FOLDER");
+}
+
+void AddWordsOption(CLI::App& command, std::string& words) {
+    command.add_option("--words", words, "Word list: its name, or a .qld file")->type_name("LIST");
+}
+
+Dict ReadWords(const std::string& nameOrPath) {
+    const std::string path =
+        IsPath(nameOrPath) ? SystemPath(nameOrPath) : std::string(WordListPath(nameOrPath).View());
+    std::optional<Dict> dict = ReadDict(path, nameOrPath);
+    if (!dict) throw CommandFailed{"cannot open word list " + nameOrPath};
+    if (const auto problem = FindBrokenInvariant(*dict)) throw CommandFailed{nameOrPath + ": " + *problem};
+    return *std::move(dict);
+}
+
+void LoadWords(const std::string& nameOrPath) {
+    InstallDict(mainDict, ReadWords(nameOrPath));
+    wordList.current = WordListName(fs::path(nameOrPath).stem().string());
+}
+
+std::string ReadWholeFile(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    std::ostringstream content;
+    if (file.peek() != std::ifstream::traits_type::eof()) content << file.rdbuf();
+    if (!file.is_open() || file.bad() || fs::is_directory(path)) throw CommandFailed{"cannot read " + path};
+    return std::move(content).str();
+}
+
+std::string SystemPath(const std::string& path) { return fs::absolute(path).string(); }
+
+}  // namespace quillet

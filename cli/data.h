@@ -1,0 +1,31 @@
+// Where the terminal companion finds the data that shapes a game.
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <string>
+
+#include "words/dict.h"
+
+namespace quillet {
+
+// --data FOLDER. Without it: the current folder, its folder "assets", or the one that lies by the program,
+// whichever first holds word lists.
+void AddDataOption(CLI::App& app);
+
+// Adds the option --words, which LoadWords understands.
+void AddWordsOption(CLI::App& command, std::string& words);
+
+// Reads a word list, looked through from end to end: a list of the data folder by its name, or a file by
+// its path. What is wrong with it ends the command.
+Dict ReadWords(const std::string& nameOrPath);
+
+// Makes such a list the one to play with.
+void LoadWords(const std::string& nameOrPath);
+
+// The whole content of a file, by its path in the file system. A file that cannot be read ends the command.
+std::string ReadWholeFile(const std::string& path);
+
+// The path as the file layer takes the file system's own.
+std::string SystemPath(const std::string& path);
+
+}  // namespace quillet

@@ -1,0 +1,135 @@
+// The terminal companion as a user runs it: the real program, its output, its exit code.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <array>
+#include <cstdio>
+#include <string>
+
+#include "support/temp_folder.h"
+
+namespace quillet {
+namespace {
+
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+struct Outcome {
+    int exitCode = -1;
+    std::string output;  // standard output and standard error
+};
+
+Outcome Cli(const std::string& arguments, const std::string& redirection = "2>&1") {
+    Outcome run;
+    const std::string command =
+        "'" QUILLET_CLI "' --data '" QUILLET_ASSETS "' " + arguments + " " + redirection;
+    FILE* pipe = popen(command.c_str(), "r");
+    if (pipe == nullptr) return run;
+    std::array<char, 4096> buffer{};
+    while (const std::size_t read = std::fread(buffer.data(), 1, buffer.size(), pipe)) {
+        run.output.append(buffer.data(), read);
+    }
+    run.exitCode = WEXITSTATUS(pclose(pipe));
+    return run;
+}
+
+std::string EmptyBoard() {
+    std::string board;
+    for (int row = 0; row < 15; ++row) board += "...............\n";
+    return board;
+}
+
+struct CliTest : TempFolder {
+    std::string Path(const std::string& name) const { return "'" + (root / name).string() + "'"; }
+};
+
+TEST_F(CliTest, SameSeedGivesTheSameGamesInAnyNumberOfProcesses) {
+    const std::string games =
+        "selfplay --players 'Ada 9' 'Bo 3' 'Cy 8' --games 6 --words Common --seed 11 --quiet";
+    const Outcome first = Cli(games);
+    EXPECT_EQ(first.exitCode, 0) << first.output;
+    EXPECT_THAT(first.output, HasSubstr("Cy 8               6"));
+    EXPECT_EQ(Cli(games + " --jobs 3").output, first.output);
+    EXPECT_NE(Cli(games + " --seed 12").output, first.output);
+}
+
+TEST_F(CliTest, ShownGameEndsWithTheWinnerAndTheFinalScores) {
+    const Outcome run = Cli("selfplay --players 'Ada 9' --show --words Common");
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_THAT(run.output, HasSubstr("End of game. Well done Ada 9!"));
+    EXPECT_THAT(run.output, HasSubstr("for letters left)"));
+}
+
+TEST_F(CliTest, MovesAreListedByScoreWithTheChoiceLast) {
+    std::string board = EmptyBoard();
+    board.replace(7 * 16 + 6, 3, "Cat");  // row 8, columns G to I; blanks stand for A and T
+    WriteFile("board", board);
+    WriteFile("words", "cat\ncats\nscat\nas\nat\n");
+    ASSERT_EQ(Cli("wordlist build " + Path("words") + " " + Path("few.qld")).exitCode, 0);
+    const Outcome run =
+        Cli("moves --board " + Path("board") + " --rack 's?' --level 8 --words " + Path("few.qld"));
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_THAT(run.output, StartsWith("1\tAS\t7F\tdown\taS\t5\t0\t"));
+    EXPECT_THAT(run.output, HasSubstr("\tSCAT\t8F\tacross\tS\t4\t0\t"));
+    EXPECT_THAT(run.output, EndsWith("plays AS at 7F down for 5\n"));
+}
+
+TEST_F(CliTest, WordListsGoFromTextToListAndBack) {
+    WriteFile("words.txt", "zebra apple Paris o'clock\tfig\nfig\n");
+    ASSERT_EQ(Cli("wordlist build " + Path("words.txt") + " " + Path("out.qld")).exitCode, 0);
+    EXPECT_EQ(Cli("wordlist dump " + Path("out.qld")).output, "apple\nfig\nzebra\n");
+    EXPECT_THAT(Cli("wordlist check " + Path("out.qld")).output, HasSubstr("is sound: 3 words"));
+    EXPECT_THAT(Cli("wordlist info " + Path("out.qld")).output, HasSubstr(" 5 letters: 2\n"));
+
+    SetByte("out.qld", 303, '!');  // the first edge's letter
+    const Outcome damaged = Cli("wordlist check " + Path("out.qld"));
+    EXPECT_EQ(damaged.exitCode, 2);
+    EXPECT_THAT(damaged.output, HasSubstr("edge 0"));
+}
+
+TEST_F(CliTest, WrongUseIsOneLineOnStandardErrorAndWritesNothing) {
+    WriteFile("empty.txt", "");
+    WriteFile("short.qld", "not a list");
+    WriteFile("board", EmptyBoard());
+    WriteFile("ragged", "...\n");
+    WriteFile("astray", "CAT............\n" + EmptyBoard().substr(16));
+    const std::array cases{
+        std::string("frobnicate"),
+        std::string("selfplay --games 0"),
+        std::string("selfplay --players Ada"),
+        std::string("selfplay --players 'A 1' 'B 1' 'C 1' 'D 1' 'E 1'"),
+        std::string("selfplay --words Nowhere"),
+        "selfplay --words " + Path("short.qld"),
+        "selfplay --squares " + Path("ragged"),
+        "moves --rack ABC --board " + Path("missing"),
+        "moves --rack ABC --board " + Path("ragged"),
+        "moves --rack ABC --board " + Path("astray"),
+        "moves --rack ABCDEFGH --board " + Path("board"),
+        "moves --rack AB1 --board " + Path("board"),
+        "wordlist build " + Path("empty.txt") + " " + Path("new.qld"),
+        "wordlist build " + Path("missing") + " " + Path("new.qld"),
+        "wordlist dump " + Path("short.qld"),
+    };
+    for (const std::string& arguments : cases) {
+        SCOPED_TRACE(arguments);
+        EXPECT_EQ(Cli(arguments, "2>/dev/null").output, "");
+        const Outcome run = Cli(arguments);
+        EXPECT_EQ(run.exitCode, 2);
+        EXPECT_THAT(run.output, StartsWith("quillet-cli: "));
+        EXPECT_EQ(run.output.find('\n'), run.output.size() - 1);
+    }
+    EXPECT_EQ(ReadFile("new.qld"), "<none>");
+}
+
+TEST_F(CliTest, EveryCommandHasHelp) {
+    for (const char* command : {"", "selfplay", "moves", "wordlist", "wordlist build", "wordlist check"}) {
+        const Outcome run = Cli(std::string(command) + " --help");
+        EXPECT_EQ(run.exitCode, 0) << command;
+        EXPECT_THAT(run.output, HasSubstr("Usage: ")) << command;
+    }
+}
+
+}  // namespace
+}  // namespace quillet
