@@ -1,0 +1,58 @@
+// Word lists: looking words up, loading a list, building one from text.
+#include <benchmark/benchmark.h>
+
+#include "positions.h"
+#include "words/graph_check.h"
+#include "words/word_index.h"
+#include "words/word_list_builder.h"
+
+namespace quillet {
+namespace {
+
+const Dict& LargeList() {
+    static const Dict dict = ReadLargeList();
+    return dict;
+}
+
+void LookUpOneWord(benchmark::State& state) {
+    const std::vector<Word> words = WordsOfText(TextOfWords(LargeList()));
+    constexpr std::size_t kStep = 7919;  // a prime: walks all over the list
+    std::size_t i = 0;
+    for (auto _ : state) {
+        i = (i + kStep) % words.size();
+        benchmark::DoNotOptimize(IsWord(LargeList(), words[i]));
+    }
+}
+
+void LoadListWithChecksAndIndex(benchmark::State& state) {
+    for (auto _ : state) {
+        Dict dict;
+        InstallDict(dict, ReadLargeList());
+        if (FindBrokenInvariant(dict)) state.SkipWithError("the list is broken");
+        WordIndex index;
+        index.Update(dict);
+        state.counters["index MB"] = static_cast<double>(index.MemoryBytes()) / 1e6;
+    }
+    state.counters["words"] = LargeList().numwords;
+}
+
+void CheckGraph(benchmark::State& state) {
+    for (auto _ : state) benchmark::DoNotOptimize(FindBrokenInvariant(LargeList()));
+}
+
+void BuildListFromText(benchmark::State& state) {
+    const std::string text = TextOfWords(LargeList());
+    for (auto _ : state) {
+        Dict dict;
+        BuildDict(dict, WordsOfText(text));
+        benchmark::DoNotOptimize(dict);
+    }
+}
+
+BENCHMARK(LookUpOneWord);
+BENCHMARK(LoadListWithChecksAndIndex)->Unit(benchmark::kMillisecond);
+BENCHMARK(CheckGraph)->Unit(benchmark::kMillisecond);
+BENCHMARK(BuildListFromText)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace quillet
