@@ -28,6 +28,10 @@ void RedrawWindow();
 // The computer player to move shows one of its opponent's pictures: 2 pleased, 3 displeased.
 void ShowOpponentMood(int mood);
 
+// The pictures of the square kinds, kept in that folder of the program's. What has none is drawn plainly.
+void LoadSquarePictures(std::string_view scenarioFolder);
+void SaveSquarePictures(std::string_view scenarioFolder);
+
 void ShowWaitCursor();
 void ShowArrowCursor();
 

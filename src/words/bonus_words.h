@@ -4,6 +4,7 @@
 #pragma once
 
 #include <array>
+#include <string_view>
 
 #include "words/dict.h"
 
@@ -19,5 +20,13 @@ inline BonusWordTable bonusWords;
 // Makes bonusDict hold the table's words: stops at the first entry that is empty or cannot be added (the
 // table holds what the scenario's file says, which need not be letters).
 void BuildBonusDict(const BonusWordTable& table);
+
+// Reads the bonus words of the scenario in that folder, one a line in its file "602.str", and builds
+// bonusDict. A missing file means none. Of a line the first 16 characters count, of the file the first 100
+// lines; a last line without a line end counts too.
+void LoadBonusWords(std::string_view scenarioFolder);
+
+// Writes the table to that file. False, with a warning, when that cannot be done.
+bool WriteBonusWords(std::string_view scenarioFolder);
 
 }  // namespace quillet

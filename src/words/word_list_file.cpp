@@ -19,6 +19,7 @@ namespace quillet {
 namespace {
 
 constexpr std::string_view kExtension = ".qld";
+constexpr std::size_t kMostLists = 86;
 
 std::string_view FolderName() { return ResourceString(StringId::WordListsFolder); }
 
@@ -79,6 +80,13 @@ class Reader {
 };
 
 }  // namespace
+
+std::vector<std::string> ListWordLists() {
+    std::vector<std::string> names = ListFiles(FolderName(), kExtension);
+    std::erase_if(names, [](const std::string& name) { return name.size() > WordListName::capacity(); });
+    if (names.size() > kMostLists) names.resize(kMostLists);
+    return names;
+}
 
 FilePath WordListPath(std::string_view name) {
     FilePath path(FolderName());
@@ -144,6 +152,29 @@ void OfferToSaveWordList() {
     if (!DictChanged(mainDict)) return;
     if (!AskYesNo(true, "Save changes to \"", wordList.current, "\"?")) return;
     if (SaveWordList(wordList.current)) mainDict.numAdded = mainDict.numDeleted = 0;
+}
+
+bool ApplyScenarioWordList(WordListName& requested) {
+    if (requested.empty()) {
+        if (!wordList.fromScenario) return false;
+        OfferToSaveWordList();
+        if (!SelectWordList(true, preferences.wordList)) return false;
+        wordList.fromScenario = false;
+        return true;
+    }
+    if (EqualIgnoringCase(requested, wordList.current)) return false;
+    const std::vector<std::string> names = ListWordLists();
+    const auto found = std::ranges::find_if(
+        names, [&](const std::string& name) { return EqualIgnoringCase(name, requested); });
+    if (found == names.end()) {
+        Warning("Scenario file asks for unknown word list: ", requested);
+        requested.Clear();
+        return false;
+    }
+    OfferToSaveWordList();
+    if (!SelectWordList(false, *found)) return false;
+    wordList.fromScenario = true;
+    return true;
 }
 
 bool UseOpponentWordList(std::string_view opponentList, WordListName& previous) {

@@ -5,7 +5,9 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/text.h"
 #include "store/files.h"
@@ -21,6 +23,9 @@ struct WordListState {
 };
 
 inline WordListState wordList;
+
+// The names of the lists there are, sorted; at most 86, names that are too long left out.
+std::vector<std::string> ListWordLists();
 
 // The path of that list's file, with "\" between folder and name.
 FilePath WordListPath(std::string_view name);
@@ -48,6 +53,11 @@ bool SelectWordList(bool remember, std::string_view name);
 // When the current list was changed, asks whether to save it, and does. Changes that could not be saved
 // still count as changes.
 void OfferToSaveWordList();
+
+// Follows the wish of the scenario, which may name a list: changes to that one, or back to the user's own
+// choice when the scenario names none but an earlier one did. Offers to save changes before. A list that
+// there is not is reported, and the wish cleared. True when a list was loaded: `wordList` then tells which.
+bool ApplyScenarioWordList(WordListName& requested);
 
 // Around a computer player's move: loads the opponent's own list when it names one that differs from the
 // current one and exists. True when it did; `previous` then names the list to go back to.

@@ -39,6 +39,12 @@ void UpdateScorePreview() { Record("UpdateScorePreview"); }
 void RedrawPanels() { Record("RedrawPanels"); }
 void RedrawWindow() { Record("RedrawWindow"); }
 void ShowOpponentMood(int mood) { Record("ShowOpponentMood " + std::to_string(mood)); }
+void LoadSquarePictures(std::string_view scenarioFolder) {
+    Record("LoadSquarePictures " + std::string(scenarioFolder));
+}
+void SaveSquarePictures(std::string_view scenarioFolder) {
+    Record("SaveSquarePictures " + std::string(scenarioFolder));
+}
 void ShowWaitCursor() { Record("ShowWaitCursor"); }
 void ShowArrowCursor() { Record("ShowArrowCursor"); }
 void PlaySoundFile(bool inSoundsFolder, std::string_view name) {

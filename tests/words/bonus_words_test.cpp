@@ -1,6 +1,8 @@
 #include "words/bonus_words.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
+
+#include "support/temp_folder.h"
 
 namespace quillet {
 namespace {
@@ -12,6 +14,44 @@ TEST(BonusWords, DictHoldsTheTableUpToTheFirstEntryThatIsNoWord) {
         EXPECT_EQ(bonusDict.numwords, 3) << end;
         EXPECT_TRUE(IsBonusWord("ABCDEFGHIJKLMNOP") && IsBonusWord("AXE") && !IsBonusWord("STALE"));
     }
+}
+
+using BonusWordsFile = TempFolder;
+
+TEST_F(BonusWordsFile, IsReadLineByLine) {
+    struct Case {
+        std::string contents;
+        std::vector<std::string> words;
+    };
+    std::string many;
+    for (int i = 0; i < 120; ++i) many += "A\r\n";
+    for (const Case& c : {
+             Case{"QUIZ\r\nAXE\r\n", {"QUIZ", "AXE"}},
+             Case{"QUIZ\r\nAXE", {"QUIZ", "AXE"}},
+             Case{"ABCDEFGHIJKLMNOPQRST\r\nAXE\r\n", {"ABCDEFGHIJKLMNOP", "AXE"}},
+             Case{"quiz\r\n", {"quiz"}},
+             Case{many, std::vector<std::string>(100, "A")},
+             Case{"", {}},
+         }) {
+        WriteFile("Scenarios/Mine/602.str", c.contents);
+        LoadBonusWords("Scenarios\\Mine");
+        for (std::size_t i = 0; i < bonusWords.size(); ++i) {
+            EXPECT_EQ(bonusWords[i], i < c.words.size() ? c.words[i] : "") << c.contents;
+        }
+    }
+    LoadBonusWords("Scenarios\\Gone");
+    EXPECT_EQ(bonusWords[0], "");
+    EXPECT_EQ(bonusDict.numwords, 0);
+}
+
+TEST_F(BonusWordsFile, HoldsEachWordWithALineEnd) {
+    MakeFolder("Scenarios/Mine");
+    bonusWords = {"AXE", "QUIZ", "", "STALE"};
+    EXPECT_TRUE(WriteBonusWords("Scenarios\\Mine"));
+    EXPECT_EQ(ReadFile("Scenarios/Mine/602.str"), "AXE\r\nQUIZ\r\n");
+    EXPECT_FALSE(WriteBonusWords("Scenarios\\Gone"));
+    EXPECT_THAT(TakeMessages(),
+                testing::ElementsAre("Couldn't create bonus words file: Scenarios\\Gone\\602.str"));
 }
 
 }  // namespace

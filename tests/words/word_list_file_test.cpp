@@ -175,6 +175,42 @@ TEST_F(WordListFile, OpponentPlaysWithItsOwnListAndTheOldOneComesBack) {
     EXPECT_THAT(TakeMessages(), IsEmpty());
 }
 
+TEST_F(WordListFile, ScenariosWishIsFollowedAndTakenBack) {
+    LoadSmallList();
+    WriteList("Own", EmptyFile());
+    WriteList(std::string(32, 'x'), EmptyFile());
+    preferences.wordList = "Small";
+    struct Case {
+        const char* wish;
+        bool loads;
+        const char* current;
+        std::vector<std::string> messages;
+    };
+    for (const Case& c : {
+             Case{"", false, "Small", {}},
+             Case{"SMALL", false, "Small", {}},
+             Case{"Gone", false, "Small", {"Scenario file asks for unknown word list: Gone"}},
+             Case{"own", true, "Own", {}},
+             Case{"OWN", false, "Own", {}},
+             Case{"", true, "Small", {}},
+             Case{"", false, "Small", {}},
+         }) {
+        WordListName wish(c.wish);
+        EXPECT_EQ(ApplyScenarioWordList(wish), c.loads) << c.wish;
+        EXPECT_EQ(wordList.current, c.current);
+        EXPECT_EQ(TakeMessages(), c.messages);
+        EXPECT_EQ(wish.empty(), c.wish[0] == '\0' || !c.messages.empty());
+    }
+    EXPECT_THAT(ListWordLists(), ElementsAre("Own", "Small"));
+
+    AddWord(mainDict, "CAB");
+    WordListName wish("Own");
+    headless.answers = {true};
+    ApplyScenarioWordList(wish);
+    EXPECT_EQ(headless.questions.at(0).text, "Save changes to \"Small\"?");
+    EXPECT_EQ(preferences.wordList, "Small");
+}
+
 TEST_F(WordListFile, ShippedListsAreSoundAndSensible) {
     SetDataFolder((std::filesystem::path(__FILE__).parent_path() / "../../assets").string());
     for (const char* name : {"Common", "Words", "Large"}) {

@@ -12,6 +12,8 @@ void UpdateScorePreview() {}
 void RedrawPanels() {}
 void RedrawWindow() {}
 void ShowOpponentMood(int) {}
+void LoadSquarePictures(std::string_view) {}
+void SaveSquarePictures(std::string_view) {}
 void ShowWaitCursor() {}
 void ShowArrowCursor() {}
 void PlaySoundFile(bool, std::string_view) {}
