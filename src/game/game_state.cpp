@@ -61,6 +61,16 @@ void LoadSquares(std::string_view squares) {
     }
 }
 
+std::string SquaresText() {
+    std::string squares;
+    for (int row = 1; row <= kBoardSize; ++row) {
+        for (int col = 1; col <= kBoardSize; ++col) {
+            squares += kSquareKinds[game.board[row][col].kind].character;
+        }
+    }
+    return squares;
+}
+
 Text<31> MatchName() {
     Text<31> name(game.players[1].name);
     for (int p = 2; p <= game.numPlayers; ++p) {

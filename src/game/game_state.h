@@ -7,6 +7,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 #include "base/board_position.h"
@@ -151,6 +152,9 @@ void ClearTiles();
 
 // Sets the whole board from a squares text: 225 characters, row by row. What a short text lacks is plain.
 void LoadSquares(std::string_view squares);
+
+// The board's kinds as such a text.
+std::string SquaresText();
 
 // The players' names joined by " vs ", cut at 31 characters.
 Text<31> MatchName();

@@ -5,6 +5,7 @@
 #include <cassert>
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 namespace quillet {
@@ -52,6 +53,14 @@ constexpr PerLetter<T> LetterTableFromText(std::string_view text) {
         table.entries[i] = static_cast<T>(static_cast<unsigned char>(text[i]) - '0');
     }
     return table;
+}
+
+// The table's text as LetterTableFromText reads it.
+template <typename T>
+std::string TextFromLetterTable(const PerLetter<T>& table) {
+    std::string text;
+    for (T number : table.entries) text += static_cast<char>('0' + number);
+    return text;
 }
 
 }  // namespace quillet

@@ -23,9 +23,34 @@ constexpr std::array kStrings{
     StringEntry{StringId::GraphicsFolder, "Data\\Graphics"},
     StringEntry{StringId::SoundsFolder, "Data\\Sounds"},
     StringEntry{StringId::HelpFolder, "Data\\Help"},
+    // What a new scenario holds; the ids are those of its items and 8000.
+    StringEntry{StringId::DefaultAboutText, "Select \"Edit Scenario\" to change this text."},
     // One character per letter A to Z, then the blank: "0" + the number.
     StringEntry{StringId::DefaultLetterValues, "1332142418513113:11114484:0"},
     StringEntry{StringId::DefaultLetterCounts, "9224<2329114268216464221212"},
+    StringEntry{StringId::DefaultSevenLetterBonus, "50"},
+    StringEntry{StringId::DefaultBoardRows, "15"},
+    StringEntry{StringId::DefaultBoardCols, "15"},
+    StringEntry{StringId::DefaultBoardSquares,
+                "..............."
+                "..............."
+                "..............."
+                "..............."
+                "..............."
+                "..............."
+                "..............."
+                "..............."
+                "..............."
+                "..............."
+                "..............."
+                "..............."
+                "..............."
+                "..............."
+                "..............."},
+    StringEntry{StringId::DefaultStartRow, "8"},
+    StringEntry{StringId::DefaultStartCol, "8"},
+    StringEntry{StringId::DefaultBonusWordValue, "0"},
+    StringEntry{StringId::DefaultBonusWordsEnabled, "F"},
 };
 
 }  // namespace

@@ -16,8 +16,17 @@ enum class StringId {
     GraphicsFolder = 261,
     SoundsFolder = 262,
     HelpFolder = 263,
+    DefaultAboutText = 8199,
     DefaultLetterValues = 8300,
     DefaultLetterCounts = 8301,
+    DefaultSevenLetterBonus = 8350,
+    DefaultBoardRows = 8400,
+    DefaultBoardCols = 8401,
+    DefaultBoardSquares = 8402,
+    DefaultStartRow = 8500,
+    DefaultStartCol = 8501,
+    DefaultBonusWordValue = 8600,
+    DefaultBonusWordsEnabled = 8601,
 };
 
 // The text of that id; empty when the table has none.

@@ -239,6 +239,12 @@ bool FileExists(std::string_view path) {
 
 bool IsWritable(std::string_view path) { return FileExists(path) && LocateForWriting(path); }
 
+bool CreateFolder(std::string_view path) {
+    const std::optional<fs::path> place = Locate(path);
+    std::error_code error;
+    return place && fs::create_directory(*place, error);
+}
+
 FileRef OpenForReading(std::string_view path) {
     const std::optional<fs::path> place = Locate(path);
     if (!place) return nullptr;

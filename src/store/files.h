@@ -45,6 +45,9 @@ bool FolderExists(std::string_view path);
 bool FileExists(std::string_view path);
 bool IsWritable(std::string_view path);  // a file that exists and may be changed
 
+// Makes a folder in one that exists. False when that cannot be done, or when it is already there.
+bool CreateFolder(std::string_view path);
+
 // Opening gives none on failure and reports nothing; errno then says why.
 FileRef OpenForReading(std::string_view path);
 FileRef CreateForWriting(std::string_view path);
