@@ -1,6 +1,7 @@
 #include "support/random_games.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "computer/opponents.h"
 #include "game/bag.h"
@@ -78,14 +79,11 @@ void RandomGame::PlayTurn() {
     Player& player = game.Current();
     const int choice = Choose(0, 9);
     player.isComputer = choice > 1;
-    if (choice == 1) {
-        const int thrown = Choose(1, std::min<int>(player.rack.numtiles, game.bag.tilesleft));
-        for (int position = 1; position <= kRackPositions; ++position) {
-            if (game.bag.tilesleft == 0 || static_cast<int>(game.thrownBack.size()) == thrown) break;
-            LetterCode& code = player.rack.positions[position];
-            if (code != 0) game.thrownBack.Append(code);
-            code = 0;
-        }
+    int thrown = choice == 1 ? std::min<int>(Choose(1, 7), game.bag.tilesleft) : 0;
+    for (LetterCode& code : player.rack.positions) {
+        if (code == 0 || thrown == 0) continue;
+        game.thrownBack.Append(std::exchange(code, '\0'));
+        --thrown;
     }
     game.turnSeconds = Choose(0, 40);
     headless.answers = {true};
