@@ -2,8 +2,10 @@
 
 #include <gmock/gmock.h>
 
-#include <map>
+#include <algorithm>
+#include <array>
 #include <random>
+#include <sstream>
 
 #include "base/messages.h"
 #include "game/consistency.h"
@@ -20,22 +22,16 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class Scenarios : public TempFolder {
+class Scenarios : public GameFolder {
   protected:
-    Scenarios() {
-        recorded = {};
-        game = FreshGameState();
-        MakeFolder("Data/Prefs");
-        MakeFolder("Scenarios");
-        preferences = {};
-        ClosePrefs();
-        LoadPreferences();
+    static std::string PathOf(int id) { return "Scenarios/Mine/" + std::to_string(id) + ".str"; }
+    std::string Item(int id) { return ReadFile(PathOf(id)); }
+    std::string Items(std::initializer_list<int> ids) {
+        std::string text;
+        for (int id : ids) text += Item(id) + "|";
+        return text;
     }
-
-    std::string Item(int id) { return ReadFile("Scenarios/Mine/" + std::to_string(id) + ".str"); }
-    void SetItem(int id, const std::string& value) {
-        WriteFile("Scenarios/Mine/" + std::to_string(id) + ".str", value);
-    }
+    void SetItem(int id, const std::string& value) { WriteFile(PathOf(id), value); }
 };
 
 TEST_F(Scenarios, NewOneHasTheDefaultItemsAndPicturesAndCanBeLoaded) {
@@ -43,22 +39,13 @@ TEST_F(Scenarios, NewOneHasTheDefaultItemsAndPicturesAndCanBeLoaded) {
     WriteFile("Data/Graphics/b203.bmp", picture);
     WriteFile("Data/Graphics/b306.bmp", "last");
     ASSERT_EQ(CreateScenario("Mine"), NewScenarioFault::None);
-    const std::map<int, std::string> items{{12345, "1"},
-                                           {199, "Select \"Edit Scenario\" to change this text."},
-                                           {300, "1332142418513113:11114484:0"},
-                                           {301, "9224<2329114268216464221212"},
-                                           {350, "50"},
-                                           {400, "15"},
-                                           {401, "15"},
-                                           {402, std::string(225, '.')},
-                                           {500, "8"},
-                                           {501, "8"},
-                                           {600, "0"},
-                                           {601, "F"}};
-    for (const auto& [id, value] : items) EXPECT_EQ(Item(id), value) << id;
+    EXPECT_EQ(Items({12345, 199, 300, 301, 350, 400, 401, 500, 501, 600, 601}),
+              "1|Select \"Edit Scenario\" to change this text.|1332142418513113:11114484:0|"
+              "9224<2329114268216464221212|50|15|15|8|8|0|F|");
+    EXPECT_EQ(Item(402), std::string(225, '.'));
     EXPECT_EQ(ReadFile("Scenarios/Mine/b203.bmp"), picture);
     EXPECT_EQ(ReadFile("Scenarios/Mine/b306.bmp"), "last");
-    EXPECT_EQ(CountEntries("Scenarios/Mine"), items.size() + 2);
+    EXPECT_EQ(CountEntries("Scenarios/Mine"), 14U);
     LoadScenario();
     EXPECT_EQ(game.bag.tilesleft, 100);
     EXPECT_EQ(ReadFile("Data/Prefs/4000.str"), "Mine");
@@ -141,11 +128,9 @@ TEST_F(Scenarios, WhatIsSavedIsLoaded) {
     EXPECT_EQ(recorded.Count("SaveSquarePictures"), 0);
     EXPECT_TRUE(SaveScenarioBoard(true) && SaveAboutText("It's\r\nme"));
     EXPECT_EQ(recorded.Count("SaveSquarePictures Scenarios\\Mine"), 1);
-    EXPECT_EQ(Item(300), "<332142418513113:11114484:0");
-    EXPECT_EQ(Item(301), "9224<2329114268216464221215");
+    EXPECT_EQ(Items({300, 301, 350, 400, 401, 500, 501, 600, 601, 602}),
+              "<332142418513113:11114484:0|9224<2329114268216464221215|60|11|9|3|4|-3|T|AXE\r\n|");
     EXPECT_EQ(Item(402), "dDtTqQpP123456." + std::string(210, '.'));
-    EXPECT_EQ(Item(350) + Item(400) + Item(401) + Item(500) + Item(501), "6011934");
-    EXPECT_EQ(Item(600) + Item(601) + Item(602), "-3TAXE\r\n");
     EXPECT_EQ(*ReadAboutText(), "It's\r\nme");
     SetItem(700, "Common");
     game = FreshGameState();
@@ -153,44 +138,36 @@ TEST_F(Scenarios, WhatIsSavedIsLoaded) {
     EXPECT_EQ(TextFromLetterTable(settings.letterValues), Item(300));
     EXPECT_EQ(SquaresText(), Item(402));
     EXPECT_EQ(game.bounds, (BoardBounds{3, 13, 4, 12}));
-    EXPECT_EQ(settings.startRow * 100 + settings.startCol, 304);
-    EXPECT_EQ(settings.sevenLetterBonus + settings.bonusWordValue, 57);
+    EXPECT_TRUE(settings.sevenLetterBonus == 60 && settings.bonusWordValue == -3);
     EXPECT_TRUE(settings.bonusWordsEnabled && IsBonusWord("AXE"));
     EXPECT_EQ(scenario.requestedWordList, "Common");
 }
 
 TEST_F(Scenarios, OddItemsMakeASoundBoard) {
-    struct Case {
-        std::string rows, cols, startRow, startCol, squares, found;
-    };
-    const std::string blocked(225, '1');
     const std::string oneFree = std::string(100, '2') + "." + std::string(124, '3');
-    for (const Case& c : {
-             Case{"15", "15", "8", "8", "", "1-15 1-15 8 8"},
-             Case{"", "", "", "", "", "1-15 1-15 8 8"},
-             Case{"14", "1", "1", "9", "", "1-15 8-8 8 8"},
-             Case{"11", "11", "3", "13", "", "3-13 3-13 3 13"},
-             Case{"11", "11", "2", "13", "", "3-13 3-13 8 8"},
-             Case{"-5", "32767", "-1", "30000", "", "1-15 1-15 8 8"},
-             Case{"17", "0", "16", "0", "", "1-15 1-15 8 8"},
-             Case{"40000", "9 ", "x", "8", "d", "1-15 1-15 8 8"},
-             Case{"15", "15", "1", "2", "111..", "1-15 1-15 2 2"},
-             Case{"15", "15", "1", "1", oneFree, "1-15 1-15 7 11"},
-             Case{"5", "5", "7", "7", blocked, "6-10 6-10 7 7"},
-         }) {
+    const std::tuple<std::vector<std::string>, std::string, std::string> boards[] = {
+        // rows, columns, start row, start column; the squares; what comes of them
+        {{"15", "15", "8", "8"}, "", "1-15 1-15 8 8"},
+        {{"", "", "", ""}, "", "1-15 1-15 8 8"},
+        {{"14", "1", "1", "9"}, "", "1-15 8-8 8 8"},
+        {{"11", "11", "3", "13"}, "", "3-13 3-13 3 13"},
+        {{"11", "11", "2", "13"}, "", "3-13 3-13 8 8"},
+        {{"-5", "32767", "-1", "30000"}, "", "1-15 1-15 8 8"},
+        {{"17", "0", "16", "0"}, "", "1-15 1-15 8 8"},
+        {{"15", "15", "1", "2"}, "111..", "1-15 1-15 2 2"},
+        {{"15", "15", "1", "1"}, oneFree, "1-15 1-15 7 11"},
+        {{"5", "5", "7", "7"}, std::string(225, '1'), "6-10 6-10 7 7"},
+    };
+    for (const auto& [numbers, squares, found] : boards) {
         CreateScenario("Mine");
-        SetItem(400, c.rows);
-        SetItem(401, c.cols);
-        SetItem(500, c.startRow);
-        SetItem(501, c.startCol);
-        SetItem(402, c.squares);
+        for (std::size_t i = 0; i < 4; ++i) SetItem(std::array{400, 401, 500, 501}.at(i), numbers[i]);
+        SetItem(402, squares);
         LoadScenario();
         const BoardBounds& at = game.bounds;
-        EXPECT_EQ(std::to_string(at.firstRow) + "-" + std::to_string(at.lastRow) + " " +
-                      std::to_string(at.firstCol) + "-" + std::to_string(at.lastCol) + " " +
-                      std::to_string(game.settings.startRow) + " " + std::to_string(game.settings.startCol),
-                  c.found)
-            << c.rows << " " << c.cols << " " << c.startRow << " " << c.startCol;
+        std::ostringstream text;
+        text << at.firstRow << '-' << at.lastRow << ' ' << at.firstCol << '-' << at.lastCol << ' '
+             << game.settings.startRow << ' ' << game.settings.startCol;
+        EXPECT_EQ(text.str(), found);
     }
     for (const auto& [text, bonus] : {std::pair{"1500", 999}, {"-5", 0}, {"40000", 0}, {"x", 0}, {" 7", 7}}) {
         SetItem(350, text);
@@ -218,7 +195,7 @@ TEST_F(Scenarios, LettersThatMakeNoSetEndTheProgram) {
 // Whatever the items hold, the game that follows runs to its end or the program ends with a message.
 TEST_F(Scenarios, DamagedItemsNeverHarmTheGame) {
     std::mt19937 random(5);
-    for (int round = 0; round < 60; ++round) {
+    for (int round = 0; round < 40; ++round) {
         CreateScenario("Mine");
         for (int damage = 0; damage < 3; ++damage) {
             static constexpr std::array kIds{300, 301, 350, 400, 401, 402, 500, 501, 600, 601, 602, 700};
@@ -235,14 +212,40 @@ TEST_F(Scenarios, DamagedItemsNeverHarmTheGame) {
         try {
             LoadScenario();
             game.settings.bonusWordsEnabled = true;
-            StartSmallGame({"Ada 9", "Bo 4"}, static_cast<std::uint32_t>(round));
-            for (int moves = 0; moves < 12; ++moves) FinishTurn();
+            RandomGame(static_cast<std::uint32_t>(round)).Play(12);
             EXPECT_EQ(FindInconsistency(game).value_or(""), "");
         } catch (const ProgramEnd&) {
             EXPECT_EQ(headless.messages.size(), 1U);
         }
         std::filesystem::remove_all(root / "Scenarios/Mine");
     }
+}
+
+TEST_F(Scenarios, ShippedOnesAreSoundAndPlayToTheEnd) {
+    const auto assets = std::filesystem::path(__FILE__).parent_path() / "../../assets";
+    for (const char* folder : {"Scenarios", "Word Lists"}) {
+        std::filesystem::copy(assets / folder, root / folder, std::filesystem::copy_options::recursive);
+    }
+    const std::vector<std::string> names = ListScenarios();
+    EXPECT_EQ(std::ranges::count(names, "Standard"), 1);
+    EXPECT_GE(names.size(), 8U);
+    for (const std::string& name : names) {
+        SCOPED_TRACE(name);
+        SetCurrentScenario(name);
+        LoadScenario();
+        const std::string folder = "Scenarios/" + name + "/";
+        EXPECT_EQ(std::to_string(game.settings.startRow), ReadFile(folder + "500.str"));
+        EXPECT_EQ(SquaresText(), ReadFile(folder + "402.str"));
+        EXPECT_LE(ReadFile(folder + "199.str").size(), 255U);
+        const WordListName list = scenario.requestedWordList;
+        ASSERT_TRUE(LoadWordList(list.empty() ? "Words" : list.View()));
+        for (const Word& word : bonusWords)
+            EXPECT_TRUE(word.empty() || IsWord(mainDict, word)) << word.View();
+        StartGameOf({"Ada 9", "Bo 6"}, 1);
+        while (!game.gameOver) FinishTurn();
+        EXPECT_GT(game.players[1].score + game.players[2].score, 100);
+    }
+    EXPECT_THAT(TakeMessages(), IsEmpty());
 }
 
 }  // namespace

@@ -1,28 +1,25 @@
 #include "support/random_games.h"
 
 #include <algorithm>
+#include <sstream>
 #include <utility>
 
 #include "computer/opponents.h"
 #include "game/bag.h"
-#include "platform/headless/headless.h"
 #include "play/history.h"
 #include "play/turns.h"
 #include "store/preferences.h"
+#include "support/recording_presentation.h"
 #include "words/dict.h"
-#include "words/word_list_builder.h"
 
 namespace quillet {
 namespace {
 
-constexpr std::string_view kWords =
-    "AA AB AD AE AI AM AN AS AT BE BY DO EH EL EN ER ES EX GO HE HI HO ID IF IN IS IT JO LO MA ME MI MU MY "
-    "NE "
-    "NO OD OF OH ON OR OS OX PA PE PI QI RE SH SO TI TO UP US UT WE XU YE ZA ACE AGE AIR ALE ANT APE ARE ART "
-    "ATE AXE BAT BEE CAT COG DEN DOG EAR EAT EEL EGG EON ERA FEE FOX GNU HAT ICE INN ION JAW KEY LEI NET OAR "
-    "OAT ONE ORE QUA RAT SEA SET SIT SON SUN TAN TEA TEN TIE TIN TOE VAN WAX YAK ZOO AERO CART DATE EARN "
-    "IRON "
-    "LION NOTE QUIZ RAIN SEAT STAR TONE TREE ATONE IRATE RATIO STARE TRAIN ORATES RETAIN SENIOR TISANE";
+constexpr const char* kWords =
+    "AA AE AI AT BE DO EH EL EN ER ES GO HI HO IN IS IT JO MA ME MU NE NO OE ON OX QI RE TI TO UN US XU ZA "
+    "ACE "
+    "AGE AIR ANT ART ATE AXE BAT CAT DEN EAR EEL EON FOX GNU INN KEY LEI NET OAT QUA RAT SEA SUN TEA TIN VAN "
+    "WAX ZOO CART EARN LION NOTE QUIZ RAIN STAR TREE ATONE RATIO STARE ORATES RETAIN SENIOR";
 
 std::string Sorted(std::string text) {
     std::ranges::sort(text);
@@ -31,34 +28,34 @@ std::string Sorted(std::string text) {
 
 }  // namespace
 
-void StartSmallGame(const std::vector<std::string>& names, std::uint32_t seed) {
-    std::vector<std::string> words;
-    std::string text(kWords);
-    for (std::size_t at = 0; at < text.size();) {
-        const std::size_t end = std::min(text.find(' ', at), text.size());
-        words.push_back(text.substr(at, end - at));
-        at = end + 1;
-    }
-    std::ranges::sort(words);
-    MakeStore(mainDict, 0);
-    for (const std::string& word : words) AddWord(mainDict, word);
+GameFolder::GameFolder() {
+    recorded = {};
+    MakeFolder("Data/Prefs");
+    MakeFolder("Scenarios");
+    preferences = {};
+    ClosePrefs();
+    LoadPreferences();
+    game = FreshGameState();
+}
+
+void StartGameOf(const std::vector<std::string>& names, std::uint32_t seed) {
     game.numPlayers = static_cast<std::uint16_t>(names.size());
     for (std::size_t i = 0; i < names.size(); ++i) {
         game.players[i + 1].name = PlayerName(names[i]);
         PlayerKindFromName(static_cast<int>(i) + 1);
     }
-    preferences.tellComputerToMove = true;
     SeedRandom(seed);
     BeginGame(false);
 }
 
 RandomGame::RandomGame(std::uint32_t seed) : random(seed) {
-    static const std::vector<std::string> kNames{"Ada 9", "Bo", "Cy \"the\" 4",
-                                                 "D\xE9sir\xE9"
-                                                 "e 7"};
+    MakeStore(mainDict, 0);
+    std::istringstream words(kWords);
+    for (std::string word; words >> word;) AddWord(mainDict, word);
     preferences.timerEnabled = seed % 3 == 0;
     preferences.timeLimit = 2;
-    StartSmallGame({kNames.begin(), kNames.begin() + Choose(1, 4)}, seed);
+    const std::vector<std::string> names{"Ada 9", "Bo", "Cy \"the\" 4", "Ren\xE9 7"};
+    StartGameOf({names.begin(), names.begin() + Choose(1, 4)}, seed);
 }
 
 void RandomGame::Play(int steps) {
@@ -81,9 +78,8 @@ void RandomGame::PlayTurn() {
     player.isComputer = choice > 1;
     int thrown = choice == 1 ? std::min<int>(Choose(1, 7), game.bag.tilesleft) : 0;
     for (LetterCode& code : player.rack.positions) {
-        if (code == 0 || thrown == 0) continue;
+        if (code == 0 || thrown-- <= 0) continue;
         game.thrownBack.Append(std::exchange(code, '\0'));
-        --thrown;
     }
     game.turnSeconds = Choose(0, 40);
     headless.answers = {true};
@@ -92,27 +88,23 @@ void RandomGame::PlayTurn() {
 }
 
 std::string GameText() {
-    std::string text;
+    std::ostringstream text;
     ForEachSquare([&](BoardPosition at, const Square& square) {
-        if (at.col == game.bounds.firstCol) text += '\n';
-        text += kSquareKinds[square.kind].character;
-        if (!square.IsEmpty()) text += square.letter;
-        if (!square.IsEmpty() && square.letter == kBlank) text += square.blankLetter;
+        text << (at.col == game.bounds.firstCol ? "\n" : " ") << kSquareKinds[square.kind].character;
+        if (!square.IsEmpty()) text << square.letter << (square.letter == kBlank ? square.blankLetter : ' ');
     });
     for (int p = 1; p <= game.numPlayers; ++p) {
         const Player& player = game.players[p];
-        text += "\n" + std::string(player.name.View()) + (player.isComputer ? " computer " : " human ") +
-                Sorted(std::string(player.rack.Codes().View()));
-        for (int number : {player.score, player.timeUsed, player.turns + 0, player.rack.numtiles + 0,
-                           player.lettersAdjustment, player.overtimePenalty, player.skill + 0}) {
-            text += " " + std::to_string(number);
-        }
+        text << '\n'
+             << player.name.View() << (player.isComputer ? " computer " : " human ") << player.skill << ' '
+             << Sorted(std::string(player.rack.Codes().View())) << ' ' << player.rack.numtiles << ' '
+             << player.score << ' ' << player.timeUsed << ' ' << player.turns << ' '
+             << player.lettersAdjustment << ' ' << player.overtimePenalty;
     }
-    const auto bagEnd = game.bag.tiles.begin() + game.bag.tilesleft;
-    text += "\nbag " + Sorted({game.bag.tiles.begin(), bagEnd});
-    return text + "\nplayer " + std::to_string(game.currentPlayer) + " move " +
-           std::to_string(game.history.movesCount) + " passes " + std::to_string(game.passCount) +
-           (game.gameOver ? " over" : "");
+    text << "\nbag " << Sorted({game.bag.tiles.begin(), game.bag.tiles.begin() + game.bag.tilesleft})
+         << "\nplayer " << game.currentPlayer << " moves " << game.history.movesCount << " passes "
+         << game.passCount << (game.gameOver ? " over" : "");
+    return text.str();
 }
 
 }  // namespace quillet

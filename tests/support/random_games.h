@@ -6,16 +6,22 @@
 #include <string>
 #include <vector>
 
-#include "game/game_state.h"
+#include "support/temp_folder.h"
 
 namespace quillet {
 
-// A new game of these players on the board and letters that the game has, with a small word list.
-void StartSmallGame(const std::vector<std::string>& names, std::uint32_t seed);
+// The program just after its start, with a folder for scenarios and nothing recorded.
+class GameFolder : public TempFolder {
+  protected:
+    GameFolder();
+};
+
+// A new game of these players on the board and letters that the game has.
+void StartGameOf(const std::vector<std::string>& names, std::uint32_t seed);
 
 class RandomGame {
   public:
-    // Starts a game of 1 to 4 players. Every third one is played against the clock.
+    // Starts a game of 1 to 4 players with a small word list. Every third one is played against the clock.
     explicit RandomGame(std::uint32_t seed);
 
     void Play(int steps);  // or to the game's end
