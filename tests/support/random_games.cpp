@@ -9,17 +9,15 @@
 #include "play/history.h"
 #include "play/turns.h"
 #include "store/preferences.h"
-#include "support/recording_presentation.h"
-#include "words/dict.h"
 
 namespace quillet {
 namespace {
 
-constexpr const char* kWords =
-    "AA AE AI AT BE DO EH EL EN ER ES GO HI HO IN IS IT JO MA ME MU NE NO OE ON OX QI RE TI TO UN US XU ZA "
-    "ACE "
-    "AGE AIR ANT ART ATE AXE BAT CAT DEN EAR EEL EON FOX GNU INN KEY LEI NET OAT QUA RAT SEA SUN TEA TIN VAN "
-    "WAX ZOO CART EARN LION NOTE QUIZ RAIN STAR TREE ATONE RATIO STARE ORATES RETAIN SENIOR";
+const std::vector<std::string> kWords{
+    "AA",  "AE",  "AI",  "AT",  "BE",  "DO",  "EH",   "EL",   "EN",   "ER",    "GO",     "HI",    "IN",
+    "IT",  "JO",  "MA",  "MU",  "NO",  "OE",  "OX",   "QI",   "RE",   "SH",    "TO",     "UN",    "US",
+    "ZA",  "ACE", "AGE", "AIR", "ART", "AXE", "BAT",  "CAT",  "DEN",  "EAR",   "EEL",    "EON",   "FOX",
+    "GNU", "INN", "KEY", "OAT", "RAT", "SEA", "CART", "LION", "QUIZ", "STARE", "RETAIN", "SENIOR"};
 
 std::string Sorted(std::string text) {
     std::ranges::sort(text);
@@ -28,34 +26,13 @@ std::string Sorted(std::string text) {
 
 }  // namespace
 
-GameFolder::GameFolder() {
-    recorded = {};
-    MakeFolder("Data/Prefs");
-    MakeFolder("Scenarios");
-    preferences = {};
-    ClosePrefs();
-    LoadPreferences();
-    game = FreshGameState();
-}
-
-void StartGameOf(const std::vector<std::string>& names, std::uint32_t seed) {
-    game.numPlayers = static_cast<std::uint16_t>(names.size());
-    for (std::size_t i = 0; i < names.size(); ++i) {
-        game.players[i + 1].name = PlayerName(names[i]);
-        PlayerKindFromName(static_cast<int>(i) + 1);
-    }
-    SeedRandom(seed);
-    BeginGame(false);
-}
-
 RandomGame::RandomGame(std::uint32_t seed) : random(seed) {
-    MakeStore(mainDict, 0);
-    std::istringstream words(kWords);
-    for (std::string word; words >> word;) AddWord(mainDict, word);
+    SetWords(kWords);
     preferences.timerEnabled = seed % 3 == 0;
     preferences.timeLimit = 2;
     const std::vector<std::string> names{"Ada 9", "Bo", "Cy \"the\" 4", "Ren\xE9 7"};
-    StartGameOf({names.begin(), names.begin() + Choose(1, 4)}, seed);
+    SeedRandom(seed);
+    StartGame({names.begin(), names.begin() + Choose(1, 4)});
 }
 
 void RandomGame::Play(int steps) {

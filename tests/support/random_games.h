@@ -4,20 +4,10 @@
 
 #include <random>
 #include <string>
-#include <vector>
 
-#include "support/temp_folder.h"
+#include "support/world.h"
 
 namespace quillet {
-
-// The program just after its start, with a folder for scenarios and nothing recorded.
-class GameFolder : public TempFolder {
-  protected:
-    GameFolder();
-};
-
-// A new game of these players on the board and letters that the game has.
-void StartGameOf(const std::vector<std::string>& names, std::uint32_t seed);
 
 class RandomGame {
   public:
