@@ -157,30 +157,24 @@ TEST_F(Scenarios, OddItemsMakeASoundBoard) {
     }
 }
 
-// Whatever the items hold, the game that follows runs to its end or the program ends with a message.
+// Whatever the items hold, a game can be played on them or the program ends with a message.
 TEST_F(Scenarios, DamagedItemsNeverHarmTheGame) {
     std::mt19937 random(5);
     for (int round = 0; round < 40; ++round) {
         CreateScenario("Mine");
         for (int damage = 0; damage < 3; ++damage) {
-            static constexpr std::array kIds{300, 301, 350, 400, 401, 402, 500, 501, 600, 601, 602, 700};
-            const int id = kIds.at(random() % kIds.size());
-            std::string value = Item(id);
-            if (id == 602 || value == "<none>") value = "AA\r\nSEA\r\n";
-            for (auto byte = random() % 9; byte > 0 && !value.empty(); --byte) {
-                value[random() % value.size()] = "1.TP0-\r\n\0~\xFF"[random() % 11];
-            }
-            if (random() % 3 == 0) value.resize(random() % (value.size() + 1));
-            SetItem(id, value);
+            const int id = std::array{300, 301, 350, 400, 401, 402, 500, 501, 600, 602}.at(random() % 10);
+            std::string value = id == 602 ? "AA\r\nSEA\r\n" : Item(id);
+            for (int i = 0; i < 4; ++i) value[random() % value.size()] = "1.TP0-\r\n\0~\xFF"[random() % 11];
+            SetItem(id, value.substr(0, 1 + random() % value.size()));
         }
-        headless.messages.clear();
         try {
             LoadScenario();
             game.settings.bonusWordsEnabled = true;
             RandomGame(static_cast<std::uint32_t>(round)).Play(12);
             ExpectConsistent();
         } catch (const ProgramEnd&) {
-            EXPECT_EQ(headless.messages.size(), 1U);
+            EXPECT_EQ(TakeMessages().size(), 1U);
         }
         std::filesystem::remove_all(root / "Scenarios/Mine");
     }
