@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "command.h"
-#include "game/validation.h"
 
 namespace quillet {
 namespace {
@@ -70,15 +69,19 @@ std::string Painted(std::string_view text, int ink, int background, bool colour)
            std::string(text) + "\033[0m";
 }
 
+// A blank's letter in lower case.
+char TileText(const Square& square) {
+    const char letter = square.ShownLetter();
+    return square.letter == kBlank ? static_cast<char>(letter - 'A' + 'a') : letter;
+}
+
 std::string SquareText(const Square& square, bool colour) {
     if (!IsPlayable(square.kind)) return Painted(kBlockedText, kSquareInk, kBlockedColour, colour);
     if (square.IsEmpty()) {
         const KindLook& look = kKindLooks[square.kind];
         return Painted(look.text, kSquareInk, look.background, colour);
     }
-    char letter = square.ShownLetter();
-    if (square.letter == kBlank) letter = static_cast<char>(letter - 'A' + 'a');
-    return Painted(std::string{' ', letter, ' '}, kTileInk, kTileColour, colour);
+    return Painted(std::string{' ', TileText(square), ' '}, kTileInk, kTileColour, colour);
 }
 
 }  // namespace
@@ -136,10 +139,29 @@ std::string PlayText(std::span<const BoardPosition> squares) {
     int col = squares.front().col;
     const bool across =
         squares.size() > 1 ? squares.back().row == row : holdsTile(row, col - 1) || holdsTile(row, col + 1);
-    while (across && holdsTile(row, col - 1)) --col;
-    while (!across && holdsTile(row - 1, col)) --row;
-    return std::string(formedWords.List().front().View()) + " at " + SquareName(row, col) +
-           (across ? " across" : " down");
+    while (holdsTile(across ? row : row - 1, across ? col - 1 : col)) --(across ? col : row);
+    const std::string at = " at " + SquareName(row, col) + (across ? " across" : " down");
+    std::string word;
+    for (; holdsTile(row, col); ++(across ? col : row)) word += TileText(game.board[row][col]);
+    return word + at;
+}
+
+std::string MoveText(const MoveRecord& record) {
+    if (record.numTiles > 0) return PlayText({record.coords.begin(), record.numTiles});
+    const std::string_view letters = record.letters;
+    return letters == "{}" ? "passes" : "exchanges " + RackText(letters.substr(1, letters.size() - 2));
+}
+
+std::string CandidateText(const Candidate& candidate) {
+    int row = candidate.rows[1];
+    int col = candidate.firstCol;
+    if (candidate.transposed) std::swap(row, col);
+    std::string word(candidate.word.View());
+    for (int n = 1; n <= candidate.numTiles; ++n) {
+        char& letter = word[static_cast<std::size_t>(candidate.cols[n] - candidate.firstCol)];
+        if (candidate.letters[n] == kBlank) letter = static_cast<char>(letter - 'A' + 'a');
+    }
+    return word + " at " + SquareName(row, col) + (candidate.transposed ? " down" : " across");
 }
 
 std::string BoardText(bool colour) {

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "computer/candidate_list.h"
 #include "game/game_state.h"
 
 namespace quillet {
@@ -27,9 +28,15 @@ std::string RackText(std::string_view codes);
 // "8H": the row's number and the column's letter.
 std::string SquareName(int row, int col);
 
-// "QUILLS at 8D across": the word, and where it begins, of the play scored last, whose tiles lie on these
-// squares of the board.
+// "QUILLS at 8D across": the word, and where it begins, of the play whose tiles lie on these squares of the
+// board; a blank's letter in lower case.
 std::string PlayText(std::span<const BoardPosition> squares);
+
+// What a move was, as long as its tiles lie on the board: as PlayText, or "exchanges AB?", or "passes".
+std::string MoveText(const MoveRecord& record);
+
+// A move that could be played, as PlayText.
+std::string CandidateText(const Candidate& candidate);
 
 // The board with its tiles, a blank's letter in lower case, and its premium squares; `placed` squares stand
 // out. With colour for a terminal that shows it.

@@ -13,6 +13,8 @@ struct CommandFailed {
 
 void AddSelfplayCommand(CLI::App& app);
 void AddMovesCommand(CLI::App& app);
+void AddAnalyseCommand(CLI::App& app);
+void AddShowCommand(CLI::App& app);
 void AddWordListCommands(CLI::App& app);
 
 }  // namespace quillet

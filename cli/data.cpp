@@ -8,6 +8,10 @@
 #include <system_error>
 
 #include "command.h"
+#include "data/saved_game.h"
+#include "data/scenarios.h"
+#include "platform/headless/headless.h"
+#include "play/history.h"
 #include "store/files.h"
 #include "words/graph_check.h"
 #include "words/word_list_file.h"
@@ -51,8 +55,28 @@ void AddDataOption(CLI::App& app) {
         ->type_name("FOLDER");
 }
 
+void LoadScenarioNamed(const std::string& name) {
+    if (!ScenarioExists(name)) throw CommandFailed{"there is no scenario \"" + name + "\""};
+    SetCurrentScenario(name);
+    LoadScenario();
+}
+
+std::string WordsToPlayWith(const std::string& words) {
+    if (!words.empty()) return words;
+    return scenario.requestedWordList.empty() ? "Words" : std::string(scenario.requestedWordList.View());
+}
+
+void OpenGame(const std::string& path) {
+    headless.messages.clear();
+    if (!LoadGame(SystemPath(path))) throw CommandFailed{headless.messages.back().text};
+    OpenGameReplay();
+}
+
 void AddWordsOption(CLI::App& command, std::string& words) {
-    command.add_option("--words", words, "Word list: its name, or a .qld file")->type_name("LIST");
+    command
+        .add_option("--words", words,
+                    "Word list: its name, or a .qld file; without it that of the scenario, or Words")
+        ->type_name("LIST");
 }
 
 Dict ReadWords(const std::string& nameOrPath) {

@@ -12,7 +12,16 @@ namespace quillet {
 // whichever first holds word lists.
 void AddDataOption(CLI::App& app);
 
-// Adds the option --words, which LoadWords understands.
+// Makes that scenario the one to play.
+void LoadScenarioNamed(const std::string& name);
+
+// The list asked for; without one, that which the scenario asks for, or "Words".
+std::string WordsToPlayWith(const std::string& words);
+
+// Reads a saved game and plays all its moves. A file that is no game ends the command.
+void OpenGame(const std::string& path);
+
+// Adds the option --words, which WordsToPlayWith and LoadWords understand.
 void AddWordsOption(CLI::App& command, std::string& words);
 
 // Reads a word list, looked through from end to end: a list of the data folder by its name, or a file by

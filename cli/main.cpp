@@ -5,6 +5,7 @@
 #include "command.h"
 #include "data.h"
 #include "platform/headless/headless.h"
+#include "store/preferences.h"
 
 namespace {
 
@@ -23,9 +24,12 @@ int main(int argc, char** argv) {
     app.name("quillet-cli");
     app.require_subcommand(1);
     app.option_defaults()->always_capture_default();
+    DetachPreferences();
     AddDataOption(app);
     AddSelfplayCommand(app);
     AddMovesCommand(app);
+    AddAnalyseCommand(app);
+    AddShowCommand(app);
     AddWordListCommands(app);
     try {
         app.parse(argc, argv);

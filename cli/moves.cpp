@@ -9,7 +9,6 @@
 #include "computer/opponents.h"
 #include "data.h"
 #include "game/bag.h"
-#include "game/validation.h"
 #include "store/preferences.h"
 
 namespace quillet {
@@ -21,7 +20,7 @@ struct MovesOptions {
     std::string rack;
     int level = kStrategicLevel;
     std::uint32_t seed = 1;
-    std::string words = "Words";
+    std::string words;
 };
 
 // Fills the bag with what is neither on the board nor on the rack. A board may hold more than a full set
@@ -78,7 +77,6 @@ void PrintChoice(const ChosenMove& move) {
         if (square.IsPlaced()) placed.push_back(at);
     });
     if (!placed.empty()) {
-        ScoreMove(true, CollectPlacedTiles());
         std::printf("plays %s for %d\n", PlayText(placed).c_str(), move.score);
     } else if (move.usedLetters.empty()) {
         std::printf("passes\n");
@@ -90,7 +88,7 @@ void PrintChoice(const ChosenMove& move) {
 void RunMoves(const MovesOptions& options) {
     const std::string rack = RackCodes(options.rack);
     SetUpPosition(options, rack);
-    LoadWords(options.words);
+    LoadWords(WordsToPlayWith(options.words));
     preferences.showComputerLetters = false;
     SeedRandom(options.seed);
 

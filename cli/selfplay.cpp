@@ -1,6 +1,7 @@
 // quillet-cli selfplay: games between computer players.
 #include <unistd.h>
 
+#include <array>
 #include <chrono>
 #include <cstdio>
 
@@ -8,12 +9,12 @@
 #include "command.h"
 #include "computer/opponents.h"
 #include "data.h"
+#include "data/saved_game.h"
 #include "game/bag.h"
-#include "game/validation.h"
 #include "game_report.h"
 #include "platform/headless/headless.h"
 #include "play/turns.h"
-#include "standard_board.h"
+#include "progress.h"
 #include "store/preferences.h"
 #include "workers.h"
 
@@ -24,8 +25,10 @@ struct SelfplayOptions {
     std::vector<std::string> players{"Ada 9", "Bo 5"};
     int games = 1;
     std::uint32_t seed = 1;
-    std::string words = "Words";
+    std::string scenario = "Standard";
+    std::string words;
     std::string squares;
+    std::string saveFolder;
     int jobs = 1;
     bool quiet = false;
     bool show = false;
@@ -58,12 +61,6 @@ void SetPlayers(const std::vector<std::string>& names) {
     }
 }
 
-std::string MoveText(const MoveRecord& record) {
-    if (record.numTiles > 0) return PlayText({record.coords.begin(), record.numTiles});
-    const std::string_view letters = record.letters;
-    return letters == "{}" ? "passes" : "exchanges " + RackText(letters.substr(1, letters.size() - 2));
-}
-
 void ShowMove(const std::string& rack, bool colour) {
     const MoveRecord& record = game.history.Last();
     const Player& player = game.players[record.player];
@@ -86,6 +83,13 @@ void ShowEnd() {
     std::printf("\n");
 }
 
+void SaveInto(const std::string& folder, int index) {
+    std::array<char, 24> name{};
+    std::snprintf(name.data(), name.size(), "game-%05d.qlg", index + 1);
+    const std::string path = folder + "/" + name.data();
+    if (!SaveGame(SystemPath(path))) throw CommandFailed{"cannot write " + path};
+}
+
 GameResult PlayGame(const SelfplayOptions& options, int index) {
     SeedRandom(SeedOfGame(options.seed, index));
     headless.messages.clear();
@@ -99,38 +103,27 @@ GameResult PlayGame(const SelfplayOptions& options, int index) {
         if (options.show) ShowMove(rack, colour);
     }
     if (options.show) ShowEnd();
+    if (!options.saveFolder.empty()) SaveInto(options.saveFolder, index);
     return ResultOfGame(index, SecondsSince(start));
 }
 
-void ShowProgress(int done, int games) {
-    constexpr int kWidth = 40;
-    const int filled = done * kWidth / games;
-    std::fprintf(stderr, "\r[%s%s] %d of %d games%s",
-                 std::string(static_cast<std::size_t>(filled), '#').c_str(),
-                 std::string(static_cast<std::size_t>(kWidth - filled), '.').c_str(), done, games,
-                 done == games ? "\n" : "");
+void SetUpTable(const SelfplayOptions& options) {
+    game = FreshGameState();
+    LoadScenarioNamed(options.scenario);
+    if (!options.squares.empty()) SetSquares(ReadWholeFile(options.squares), options.squares);
+    LoadWords(WordsToPlayWith(options.words));
+    SetPlayers(options.players);
+    preferences.tellComputerToMove = true;  // one move at each call, so that each can be shown
+    preferences.showComputerLetters = false;
 }
 
 void RunSelfplay(const SelfplayOptions& options) {
-    game = FreshGameState();
-    SetPlayers(options.players);
-    if (options.squares.empty()) {
-        LoadSquares(kStandardSquares);
-        ComputeBounds();
-    } else {
-        SetSquares(ReadWholeFile(options.squares), options.squares);
-    }
-    LoadWords(options.words);
-    preferences.tellComputerToMove = true;  // one move at each call, so that each can be shown
-    preferences.showComputerLetters = false;
-
-    const bool progress = !options.quiet && !options.show && isatty(STDERR_FILENO) != 0;
+    SetUpTable(options);
+    const Progress progress(!options.quiet && !options.show, options.games, "games");
     const auto start = Clock::now();
     const std::vector<GameResult> results = PlayGames(
         options.games, options.show ? 1 : options.jobs, [&](int index) { return PlayGame(options, index); },
-        [&](int done) {
-            if (progress) ShowProgress(done, options.games);
-        });
+        [&](int done) { progress.Show(done); });
     std::printf("%s", ResultTable(options.players, results).c_str());
     if (!options.quiet) std::fprintf(stderr, "%s", SpeedLine(results, SecondsSince(start)).c_str());
 }
@@ -145,10 +138,15 @@ void AddSelfplayCommand(CLI::App& app) {
         ->type_name("NAME");
     command->add_option("--games", options->games, "How many")->check(CLI::Range(1, 1'000'000));
     command->add_option("--seed", options->seed, "The same seed gives the same games on every machine");
+    command->add_option("--scenario", options->scenario, "What to play")->type_name("NAME");
     AddWordsOption(*command, options->words);
+    command->add_option("--save", options->saveFolder, "Folder for the games played, a .qlg file each")
+        ->check(CLI::ExistingDirectory)
+        ->type_name("FOLDER");
     command
-        ->add_option("--squares", options->squares,
-                     "Board: 15 lines of 15 square characters (. d D t T q Q p P 1-6)")
+        ->add_option(
+            "--squares", options->squares,
+            "Board instead of the scenario's: 15 lines of 15 square characters (. d D t T q Q p P 1-6)")
         ->type_name("FILE");
     command->add_option("--jobs", options->jobs, "Worker processes")->check(CLI::Range(1, 256));
     command->add_flag("--quiet", options->quiet, "The table only");

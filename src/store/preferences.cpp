@@ -65,6 +65,8 @@ constexpr std::array kItems{
 };
 
 // The store is open while one of these lives.
+bool isDetached = false;
+
 struct OpenedPrefs {
     OpenedPrefs() { OpenPrefs(); }
     ~OpenedPrefs() { ClosePrefs(); }
@@ -107,7 +109,10 @@ void WriteVersion() { WriteItemText(prefsStore, kVersionItem, std::string_view(&
 
 }  // namespace
 
+void DetachPreferences() { isDetached = true; }
+
 void OpenPrefs() {
+    if (isDetached) return;
     const bool exists = FileExists(ItemPath(prefsStore, kVersionItem));
     prefsStore.open = true;
     if (!exists) {

@@ -47,6 +47,10 @@ inline Preferences preferences;
 void OpenPrefs();
 void ClosePrefs();
 
+// From now on the preferences live in memory only, and opening the store does nothing: for programs that
+// must not change what the player has chosen.
+void DetachPreferences();
+
 // Reads everything in `preferences`. A missing item is Fatal.
 void LoadPreferences();
 
