@@ -73,7 +73,7 @@ TEST_F(CliTest, MovesAreListedByScoreWithTheChoiceLast) {
     EXPECT_EQ(run.exitCode, 0);
     EXPECT_THAT(run.output, StartsWith("1\tAS\t7F\tdown\taS\t5\t0\t"));
     EXPECT_THAT(run.output, HasSubstr("\tSCAT\t8F\tacross\tS\t4\t0\t"));
-    EXPECT_THAT(run.output, EndsWith("plays AS at 7F down for 5\n"));
+    EXPECT_THAT(run.output, EndsWith("plays aS at 7F down for 5\n"));
 }
 
 TEST_F(CliTest, WordListsGoFromTextToListAndBack) {
@@ -89,6 +89,30 @@ TEST_F(CliTest, WordListsGoFromTextToListAndBack) {
     EXPECT_THAT(damaged.output, HasSubstr("edge 0"));
 }
 
+TEST_F(CliTest, SavedGamesAreShownAndAnalysed) {
+    MakeFolder("games");
+    const std::string play = "selfplay --scenario 'Quick Nine' --players 'Ada 9' 'Bo 2' --seed 3 --quiet";
+    ASSERT_EQ(Cli(play + " --games 2 --jobs 2 --save " + Path("games")).exitCode, 0);
+    EXPECT_EQ(CountEntries("games"), 2U);
+    const std::string games = Path("games/game-00001.qlg") + " " + Path("games/game-00002.qlg");
+
+    const Outcome table = Cli("analyse " + games);
+    EXPECT_EQ(table.exitCode, 0);
+    EXPECT_THAT(table.output, HasSubstr("Bingos missed\nAda 9"));
+    const Outcome csv = Cli("analyse --csv " + games);
+    EXPECT_THAT(csv.output, StartsWith("file,move,player,rack,played,score,best,best score,missed,rank\n"));
+    EXPECT_THAT(csv.output, HasSubstr("game-00002.qlg\",1,\""));
+
+    const Outcome board = Cli("show --move 0 " + Path("games/game-00001.qlg"));
+    EXPECT_EQ(board.exitCode, 0);
+    EXPECT_THAT(board.output, HasSubstr("letters left in the bag"));
+    EXPECT_EQ(Cli("show --move 199 " + Path("games/game-00001.qlg")).exitCode, 2);
+
+    const std::string game = ReadFile("games/game-00001.qlg");
+    WriteFile("edited.qlg", game.substr(0, game.find("start row")) + "start row = eight\r\n");
+    EXPECT_THAT(Cli("show " + Path("edited.qlg")).output, HasSubstr("Bad cardinal on line 6 of /"));
+}
+
 TEST_F(CliTest, WrongUseIsOneLineOnStandardErrorAndWritesNothing) {
     WriteFile("empty.txt", "");
     WriteFile("short.qld", "not a list");
@@ -102,6 +126,9 @@ TEST_F(CliTest, WrongUseIsOneLineOnStandardErrorAndWritesNothing) {
         std::string("selfplay --players 'A 1' 'B 1' 'C 1' 'D 1' 'E 1'"),
         std::string("selfplay --words Nowhere"),
         "selfplay --words " + Path("short.qld"),
+        std::string("selfplay --scenario Nowhere"),
+        "selfplay --save " + Path("missing"),
+        "analyse " + Path("short.qld"),
         "selfplay --squares " + Path("ragged"),
         "moves --rack ABC --board " + Path("missing"),
         "moves --rack ABC --board " + Path("ragged"),
