@@ -239,6 +239,14 @@ bool FileExists(std::string_view path) {
 
 bool IsWritable(std::string_view path) { return FileExists(path) && LocateForWriting(path); }
 
+std::optional<FileStamp> StampOf(std::string_view path) {
+    const std::optional<fs::path> place = Locate(path);
+    struct stat status {};
+    if (!place || stat(place->c_str(), &status) != 0) return std::nullopt;
+    return FileStamp{status.st_ino, status.st_size,
+                     status.st_ctim.tv_sec * std::int64_t{1'000'000'000} + status.st_ctim.tv_nsec};
+}
+
 bool CreateFolder(std::string_view path) {
     const std::optional<fs::path> place = Locate(path);
     std::error_code error;

@@ -14,6 +14,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -47,6 +48,17 @@ bool IsWritable(std::string_view path);  // a file that exists and may be change
 
 // Makes a folder in one that exists. False when that cannot be done, or when it is already there.
 bool CreateFolder(std::string_view path);
+
+// Tells one state of a file from another: a file whose stamp is the same has not been changed. None when
+// there is no such file.
+struct FileStamp {
+    std::uint64_t node = 0;
+    std::int64_t size = 0;
+    std::int64_t changedAt = 0;  // nanoseconds
+
+    friend bool operator==(const FileStamp&, const FileStamp&) = default;
+};
+std::optional<FileStamp> StampOf(std::string_view path);
 
 // Opening gives none on failure and reports nothing; errno then says why.
 FileRef OpenForReading(std::string_view path);

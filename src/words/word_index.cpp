@@ -76,7 +76,7 @@ LetterKey KeyOfWord(std::string_view letters) {
 }
 
 void WordIndex::Update(const Dict& dict) {
-    if (revision == dict.revision) return;
+    if (IsOf(dict)) return;
     const WordsByLength words = KeyedWords(dict);
     for (std::size_t length = 1; length < lengths.size(); ++length)
         lengths[length].Fill(length, words[length]);

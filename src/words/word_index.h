@@ -91,6 +91,8 @@ class WordIndex {
     // Follows the dict: makes the index anew when the dict's words have changed since the last call.
     void Update(const Dict& dict);
 
+    bool IsOf(const Dict& dict) const { return revision == dict.revision; }
+
     // length is 1..15.
     const LengthIndex& OfLength(std::size_t length) const { return lengths[length]; }
 

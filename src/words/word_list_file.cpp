@@ -8,6 +8,7 @@
 #include <span>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "base/messages.h"
 #include "base/presentation.h"
@@ -79,6 +80,47 @@ class Reader {
     std::string_view name;
 };
 
+// A file as it was when it was read.
+struct ReadState {
+    FilePath path;
+    std::optional<FileStamp> stamp;
+
+    friend bool operator==(const ReadState&, const ReadState&) = default;
+};
+
+// Lists lately left, unchanged since they were read, latest first. While their files stay the same too, a
+// computer player's change to its own list and back reads nothing, and search indexes stay good.
+struct KeptList {
+    ReadState state;
+    Dict dict;
+};
+constexpr std::size_t kMaxKept = 3;
+std::vector<KeptList> keptLists;
+
+// What mainDict was read from, and its revision then.
+ReadState mainState;
+std::uint32_t mainRevision = 0;
+
+std::optional<Dict> TakeKept(const ReadState& state) {
+    const auto kept = std::ranges::find(keptLists, state, &KeptList::state);
+    if (!state.stamp || kept == keptLists.end()) return std::nullopt;
+    Dict dict = std::move(kept->dict);
+    keptLists.erase(kept);
+    return dict;
+}
+
+void ReplaceMainDict(Dict&& dict, const ReadState& state) {
+    std::erase_if(keptLists, [](const KeptList& kept) { return kept.state.path == mainState.path; });
+    const bool isUnchanged = mainRevision != 0 && mainDict.revision == mainRevision;
+    if (isUnchanged && mainState.path != state.path) {
+        keptLists.insert(keptLists.begin(), {mainState, std::move(mainDict)});
+        if (keptLists.size() > kMaxKept) keptLists.pop_back();
+    }
+    mainDict = std::move(dict);
+    mainState = state;
+    mainRevision = mainDict.revision;
+}
+
 }  // namespace
 
 std::vector<std::string> ListWordLists() {
@@ -119,15 +161,22 @@ bool WriteDict(std::string_view path, const Dict& dict) {
 bool LoadWordList(std::string_view name) {
     const WordListName loaded(name);  // `name` may be a view of wordList.current
     const FilePath path = WordListPath(name);
-    ShowWaitCursor();
-    std::optional<Dict> dict = ReadDict(path, loaded);
-    ShowArrowCursor();
-    if (!dict) {
-        Warning("Cannot open word list: \"", path, "\"");
-        return false;
+    const ReadState state{path, StampOf(path)};
+    if (std::optional<Dict> kept = TakeKept(state)) {
+        ReplaceMainDict(*std::move(kept), state);
+    } else {
+        ShowWaitCursor();
+        std::optional<Dict> dict = ReadDict(path, loaded);
+        ShowArrowCursor();
+        if (!dict) {
+            Warning("Cannot open word list: \"", path, "\"");
+            return false;
+        }
+        if (FindBrokenInvariant(*dict)) Fatal("Bad edges in \"", loaded, "\"!");
+        Dict fresh;
+        InstallDict(fresh, *std::move(dict));
+        ReplaceMainDict(std::move(fresh), state);
     }
-    if (FindBrokenInvariant(*dict)) Fatal("Bad edges in \"", loaded, "\"!");
-    InstallDict(mainDict, *std::move(dict));
     wordList.current = loaded;
     return true;
 }

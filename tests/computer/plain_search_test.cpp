@@ -142,7 +142,7 @@ std::set<std::string> PlacementsOf(const CandidateList& list) {
 TEST_F(PlainSearchTest, FindsExactlyWhatTheRulesAllow) {
     int compared = 0;
     for (std::uint32_t seed = 1; seed <= 40; ++seed) {
-        RandomGame world(seed);
+        RandomPosition world(seed);
         game.settings.bonusWordsEnabled = false;
         for (int turn = 0; turn < 6; ++turn) {
             std::string rack = world.DrawRack().substr(0, 3);

@@ -67,7 +67,7 @@ class SlotSearchGames : public testing::TestWithParam<std::uint32_t> {};
 TEST_P(SlotSearchGames, FindsWhatThePlainSearchFindsAndTheRulesAllowIt) {
     for (std::uint32_t n = 0; n < kGames; ++n) {
         SCOPED_TRACE("game " + std::to_string(GetParam() * 1000 + n));
-        RandomGame world(GetParam() * 1000 + n);
+        RandomPosition world(GetParam() * 1000 + n);
         for (int turn = 0; turn < kTurns; ++turn) {
             const std::string rack = world.DrawRack();
             const CandidateList found = ExpectSameList(RequestFor(rack, world.DrawCeiling()));
@@ -98,7 +98,7 @@ TEST(SlotSearch, HighestWordFactorsKeepTheBestMove) {
 
 TEST(SlotSearch, RacksOfManyBlanksFindWhatThePlainSearchFinds) {
     for (std::uint32_t seed = 1; seed <= 6; ++seed) {
-        RandomGame world(seed);
+        RandomPosition world(seed);
         for (std::size_t blanks = 5; blanks <= 7; ++blanks) {
             const std::string rack(blanks, kBlank);
             ExpectSameList(RequestFor(rack));

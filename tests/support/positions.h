@@ -90,9 +90,9 @@ inline std::vector<std::string> Describe(const CandidateList& list) {
 
 // A game of a made-up scenario: few letters, so that many words cross, and unlikely boards and values.
 // The same seed gives the same game.
-class RandomGame {
+class RandomPosition {
   public:
-    explicit RandomGame(std::uint32_t seed) : random(seed) {
+    explicit RandomPosition(std::uint32_t seed) : random(seed) {
         game = FreshGameState();
         std::shuffle(letters.begin(), letters.end(), random);
         letters.resize(2 + Below(4));

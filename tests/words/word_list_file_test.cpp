@@ -175,6 +175,25 @@ TEST_F(WordListFile, OpponentPlaysWithItsOwnListAndTheOldOneComesBack) {
     EXPECT_THAT(TakeMessages(), IsEmpty());
 }
 
+TEST_F(WordListFile, ListThatIsComeBackToIsReadAgainOnlyWhenItChanged) {
+    LoadSmallList();
+    WriteList("Own", EmptyFile());
+    const std::uint32_t asRead = mainDict.revision;
+    LoadWordList("Own");
+    LoadWordList("Small");
+    EXPECT_EQ(mainDict.revision, asRead);
+
+    AddWord(mainDict, "NEW");  // not saved, so gone after the detour
+    LoadWordList("Own");
+    LoadWordList("Small");
+    EXPECT_FALSE(IsWord(mainDict, "NEW"));
+
+    LoadWordList("Own");
+    WriteList("Small", EmptyFile());
+    LoadWordList("Small");
+    EXPECT_EQ(mainDict.numwords, 0);
+}
+
 TEST_F(WordListFile, ScenariosWishIsFollowedAndTakenBack) {
     LoadSmallList();
     WriteList("Own", EmptyFile());
