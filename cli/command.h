@@ -15,6 +15,7 @@ void AddSelfplayCommand(CLI::App& app);
 void AddMovesCommand(CLI::App& app);
 void AddAnalyseCommand(CLI::App& app);
 void AddShowCommand(CLI::App& app);
+void AddCheckCommand(CLI::App& app);
 void AddWordListCommands(CLI::App& app);
 
 }  // namespace quillet

@@ -30,6 +30,7 @@ int main(int argc, char** argv) {
     AddMovesCommand(app);
     AddAnalyseCommand(app);
     AddShowCommand(app);
+    AddCheckCommand(app);
     AddWordListCommands(app);
     try {
         app.parse(argc, argv);
