@@ -1,10 +1,14 @@
 // Word lists: looking words up, loading a list, building one from text.
 #include <benchmark/benchmark.h>
 
+#include <filesystem>
+#include <fstream>
+
 #include "positions.h"
 #include "words/graph_check.h"
 #include "words/word_index.h"
 #include "words/word_list_builder.h"
+#include "words/word_list_editing.h"
 
 namespace quillet {
 namespace {
@@ -49,10 +53,30 @@ void BuildListFromText(benchmark::State& state) {
     }
 }
 
+// The list's words in an order that is not theirs, into an empty list.
+void ImportTextFile(benchmark::State& state) {
+    const std::vector<Word> words = WordsOfText(TextOfWords(LargeList()));
+    const std::string path = std::filesystem::temp_directory_path() / "quillet-bench.txt";
+    std::string text;
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        for (const char letter : words[i * 7919 % words.size()]) text += static_cast<char>(letter + 32);
+        text += "\r\n";
+    }
+    std::ofstream(path, std::ios::binary) << text;
+    for (auto _ : state) {
+        mainDict = {};
+        AddFromTextFile(path);
+    }
+    state.counters["words"] = mainDict.numAdded;
+    mainDict = {};
+    std::filesystem::remove(path);
+}
+
 BENCHMARK(LookUpOneWord);
 BENCHMARK(LoadListWithChecksAndIndex)->Unit(benchmark::kMillisecond);
 BENCHMARK(CheckGraph)->Unit(benchmark::kMillisecond);
 BENCHMARK(BuildListFromText)->Unit(benchmark::kMillisecond);
+BENCHMARK(ImportTextFile)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace quillet

@@ -3,6 +3,7 @@
 // chosen when linking.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <span>
 #include <string_view>
@@ -34,6 +35,14 @@ void SaveSquarePictures(std::string_view scenarioFolder);
 
 void ShowWaitCursor();
 void ShowArrowCursor();
+
+// The small window of a long word-list operation: four lines, 1 at the top, and a Cancel button, which sets
+// the pump's abortRequested. At most one is open; lines and progress are for the open one.
+void OpenStatus(std::string_view line1, std::string_view line2, std::string_view line3,
+                std::string_view line4);
+void SetStatusWindowLine(std::string_view text, int line);
+void SetStatusProgress(std::uint32_t done, std::uint32_t total);  // a bar in the place of line 4
+void CloseStatus();
 
 // Plays a wave file to its end: in the sounds folder, or else relative to the opponents' folder. Silent
 // when sounds are off or the file is missing.

@@ -75,7 +75,7 @@ unsigned SharedLetters(const Key& a, const Key& b) {
 
 // The edges that a graph of these words has: each word adds the letters that it does not share with the
 // one before it.
-std::size_t CountEdges(std::span<const Key> keys) {
+std::size_t CountEdgesOf(std::span<const Key> keys) {
     std::size_t count = 0;
     Key previous;
     for (const Key& key : keys) {
@@ -126,7 +126,7 @@ bool IsSeparator(char character) {
 
 bool BuildDict(Dict& dict, const std::vector<Word>& words) {
     const std::vector<Key> keys = SortedKeys(words);
-    const std::size_t edgeCount = CountEdges(keys);
+    const std::size_t edgeCount = CountEdgesOf(keys);
     if (edgeCount > static_cast<std::size_t>(kMaxEdges)) {
         Warning("Too many words!");
         return false;
@@ -139,6 +139,8 @@ bool BuildDict(Dict& dict, const std::vector<Word>& words) {
     InstallDict(dict, std::move(built));
     return true;
 }
+
+std::size_t CountEdges(const std::vector<Word>& words) { return CountEdgesOf(SortedKeys(words)); }
 
 std::vector<Word> WordsOfText(std::string_view text) {
     std::vector<Word> words;

@@ -1,6 +1,7 @@
 // Building a word graph in bulk: the same set of words that AddWord would hold, in a fraction of the time.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,6 +14,9 @@ namespace quillet {
 // a fresh store and all counters zero. False with the warning "Too many words!" when they need more than
 // kMaxEdges edges; the dict is then as it was.
 bool BuildDict(Dict& dict, const std::vector<Word>& words);
+
+// How many edges a graph of these words has.
+std::size_t CountEdges(const std::vector<Word>& words);
 
 // The words of a plain text, upper-cased, in the order of the text, repeats kept. A word is a run of
 // lower-case letters a to z that stands at the very start or right after a space, a tab or a line end, is

@@ -16,6 +16,10 @@ void LoadSquarePictures(std::string_view) {}
 void SaveSquarePictures(std::string_view) {}
 void ShowWaitCursor() {}
 void ShowArrowCursor() {}
+void OpenStatus(std::string_view, std::string_view, std::string_view, std::string_view) {}
+void SetStatusWindowLine(std::string_view, int) {}
+void SetStatusProgress(std::uint32_t, std::uint32_t) {}
+void CloseStatus() {}
 void PlaySoundFile(bool, std::string_view) {}
 std::optional<char> AskBlankLetter(int, int) { return std::nullopt; }
 bool ChoosePlayers() { return false; }
