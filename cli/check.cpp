@@ -88,7 +88,7 @@ struct SizedItem {
 constexpr SizedItem kSizedItems[]{
     {300, kNumLetterCodes, "letter values"},
     {301, kNumLetterCodes, "letter counts"},
-    {402, kBoardSize * kBoardSize, "board squares"},
+    {402, kBoardSize* kBoardSize, "board squares"},
 };
 
 void CheckScenario(Problems& problems, const std::string& name) {
@@ -98,8 +98,9 @@ void CheckScenario(Problems& problems, const std::string& name) {
         for (const SizedItem& item : kSizedItems) {
             const std::size_t size = ReadItemText<255>(scenarioStore, item.id).size();
             if (size == item.size) continue;
-            problems.Add(where, std::string(item.what) + " (" + std::to_string(item.id) + ".str): " +
-                                    std::to_string(size) + " characters instead of " + std::to_string(item.size));
+            problems.Add(where, std::string(item.what) + " (" + std::to_string(item.id) +
+                                    ".str): " + std::to_string(size) + " characters instead of " +
+                                    std::to_string(item.size));
         }
         const bool startStands = ReadItemShort(scenarioStore, 500) == game.settings.startRow &&
                                  ReadItemShort(scenarioStore, 501) == game.settings.startCol;
@@ -109,7 +110,8 @@ void CheckScenario(Problems& problems, const std::string& name) {
             problems.Add(where, "rows and columns must be 1 to 15");
         }
         if (!scenario.requestedWordList.empty() && !IsKnownWordList(scenario.requestedWordList)) {
-            problems.Add(where, "asks for the unknown word list " + std::string(scenario.requestedWordList.View()));
+            problems.Add(where,
+                         "asks for the unknown word list " + std::string(scenario.requestedWordList.View()));
         }
         const auto words = std::ranges::find_if(bonusWords, [](const Word& word) { return word.empty(); });
         if (bonusDict.numwords < words - bonusWords.begin()) {
@@ -155,7 +157,8 @@ void CheckDefinitions(Problems& problems) {
                 continue;
             }
             if (ToUpper(word.front()) != letter) problems.Add(where, word + " begins with another letter");
-            if (CompareIgnoringCase(before, word) >= 0) problems.Add(where, word + " must come before " + before);
+            if (CompareIgnoringCase(before, word) >= 0)
+                problems.Add(where, word + " must come before " + before);
             if (line.size() - text > kMaxDefinitionLength) problems.Add(where, "more than 255 characters");
             before = word;
         }
@@ -194,7 +197,8 @@ void CheckGraphics(Problems& problems) {
                 kSheets, [&](const SheetSize& size) { return EqualIgnoringCase(size.file, name); });
             if (!image || sheet == std::end(kSheets)) return;
             if (image->width == sheet->width && image->height == sheet->height) return;
-            problems.Add(where, "is not " + std::to_string(sheet->width) + " by " + std::to_string(sheet->height));
+            problems.Add(where,
+                         "is not " + std::to_string(sheet->width) + " by " + std::to_string(sheet->height));
         });
     }
 }
@@ -213,8 +217,8 @@ void Check(const std::string& folder) {
     CheckHelp(problems);
     CheckGraphics(problems);
     if (problems.count > 0) {
-        throw CommandFailed{std::to_string(problems.count) + (problems.count == 1 ? " problem" : " problems") +
-                            " in " + folder};
+        throw CommandFailed{std::to_string(problems.count) +
+                            (problems.count == 1 ? " problem" : " problems") + " in " + folder};
     }
     std::printf("%s: nothing wrong\n", folder.c_str());
 }
@@ -224,8 +228,9 @@ void Check(const std::string& folder) {
 void AddCheckCommand(CLI::App& app) {
     auto folder = std::make_shared<std::string>();
     CLI::App* command = app.add_subcommand(
-        "check", "Look through a whole data folder (word lists, scenarios, opponents, definitions, help,\n"
-                 "pictures) and list whatever the program would stumble over");
+        "check",
+        "Look through a whole data folder (word lists, scenarios, opponents, definitions, help,\n"
+        "pictures) and list whatever the program would stumble over");
     command->add_option("folder", *folder, "The folder that holds \"Word Lists\", \"Scenarios\" …")
         ->check(CLI::ExistingDirectory)
         ->required();

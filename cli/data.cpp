@@ -101,6 +101,12 @@ std::string ReadWholeFile(const std::string& path) {
     return std::move(content).str();
 }
 
+void MakeFolder(const std::string& path) {
+    std::error_code error;
+    fs::create_directories(path, error);
+    if (!fs::is_directory(path, error)) throw CommandFailed{"cannot make the folder " + path};
+}
+
 std::string SystemPath(const std::string& path) { return fs::absolute(path).string(); }
 
 }  // namespace quillet

@@ -34,6 +34,9 @@ void LoadWords(const std::string& nameOrPath);
 // The whole content of a file, by its path in the file system. A file that cannot be read ends the command.
 std::string ReadWholeFile(const std::string& path);
 
+// Makes the folder when it is not there yet. What cannot be made ends the command.
+void MakeFolder(const std::string& path);
+
 // The path as the file layer takes the file system's own.
 std::string SystemPath(const std::string& path);
 

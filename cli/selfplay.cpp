@@ -113,6 +113,7 @@ void SetUpTable(const SelfplayOptions& options) {
     if (!options.squares.empty()) SetSquares(ReadWholeFile(options.squares), options.squares);
     LoadWords(WordsToPlayWith(options.words));
     SetPlayers(options.players);
+    if (!options.saveFolder.empty()) MakeFolder(options.saveFolder);
     preferences.tellComputerToMove = true;  // one move at each call, so that each can be shown
     preferences.showComputerLetters = false;
 }
@@ -141,7 +142,6 @@ void AddSelfplayCommand(CLI::App& app) {
     command->add_option("--scenario", options->scenario, "What to play")->type_name("NAME");
     AddWordsOption(*command, options->words);
     command->add_option("--save", options->saveFolder, "Folder for the games played, a .qlg file each")
-        ->check(CLI::ExistingDirectory)
         ->type_name("FOLDER");
     command
         ->add_option(

@@ -90,7 +90,6 @@ TEST_F(CliTest, WordListsGoFromTextToListAndBack) {
 }
 
 TEST_F(CliTest, SavedGamesAreShownAndAnalysed) {
-    MakeFolder("games");
     const std::string play = "selfplay --scenario 'Quick Nine' --players 'Ada 9' 'Bo 2' --seed 3 --quiet";
     ASSERT_EQ(Cli(play + " --games 2 --jobs 2 --save " + Path("games")).exitCode, 0);
     EXPECT_EQ(CountEntries("games"), 2U);
@@ -113,6 +112,36 @@ TEST_F(CliTest, SavedGamesAreShownAndAnalysed) {
     EXPECT_THAT(Cli("show " + Path("edited.qlg")).output, HasSubstr("Bad cardinal on line 6 of /"));
 }
 
+TEST_F(CliTest, CheckNamesEachProblemOfADataFolder) {
+    EXPECT_THAT(Cli("check '" QUILLET_ASSETS "'").output, EndsWith(": nothing wrong\n"));
+
+    std::filesystem::copy(QUILLET_ASSETS, root, std::filesystem::copy_options::recursive);
+    SetByte("Word Lists/Common.qld", 400, '\xFF');
+    Shorten("Word Lists/Large.qld", 5000);
+    WriteFile("Scenarios/Duel/301.str", "999");
+    WriteFile("Scenarios/Kitchen/402.str", "...");
+    WriteFile("Scenarios/Kitchen/602.str", "FORK\r\nSPOON2\r\n");
+    WriteFile("Scenarios/Standard/700.str", "Nowhere");
+    WriteFile("Scenarios/Standard/500.str", "99");
+    WriteFile("Scenarios/Diamond/12345.str", "7");
+    WriteFile("Opponents/Pip/300.str", "Gone");
+    WriteFile("Opponents/Pip/9001.bmp", "BM, but no picture");
+    WriteFile("Definitions/Q.txt", "QUIT  (verb) stop\r\nQUIET  (noun) silence\r\nQUEUE\r\n");
+    WriteFile("Data/Help/HELPITEMS.txt", "Playing\r\n");
+    const Outcome broken = Cli("check '" + root.string() + "'", "2>/dev/null");
+    EXPECT_EQ(broken.exitCode, 2);
+    for (const char* problem :
+         {"Word Lists\\Common: Common: edge ", "Word Lists\\Large: \"Large\" ended unexpectedly!",
+          "Scenarios\\Duel: Too few letters!", "Scenarios\\Kitchen: board squares (402.str): 3 characters",
+          "Scenarios\\Kitchen: a bonus word", "Scenarios\\Standard: asks for the unknown word list Nowhere",
+          "Scenarios\\Standard: the start square", "Scenarios\\Diamond: Unexpected version in scenario!",
+          "Opponents\\Pip: has the unknown word list Gone", "Opponents\\Pip: Could not read bitmap header",
+          "Q.txt, line 2: QUIET must come before QUIT", "Q.txt, line 3: must be a word",
+          "Data\\Help\\Playing.txt: is missing"}) {
+        EXPECT_THAT(broken.output, HasSubstr(problem));
+    }
+}
+
 TEST_F(CliTest, WrongUseIsOneLineOnStandardErrorAndWritesNothing) {
     WriteFile("empty.txt", "");
     WriteFile("short.qld", "not a list");
@@ -127,7 +156,7 @@ TEST_F(CliTest, WrongUseIsOneLineOnStandardErrorAndWritesNothing) {
         std::string("selfplay --words Nowhere"),
         "selfplay --words " + Path("short.qld"),
         std::string("selfplay --scenario Nowhere"),
-        "selfplay --save " + Path("missing"),
+        "selfplay --save " + Path("board"),
         "analyse " + Path("short.qld"),
         "selfplay --squares " + Path("ragged"),
         "moves --rack ABC --board " + Path("missing"),
