@@ -37,8 +37,9 @@ struct Bmp {
     }
 };
 
-constexpr Colour R = 0xFF0000, G = 0x00FF00, B = 0x0000FF, W = 0xFFFFFF, K = 0;
-const std::string kFourColours("\0\0\0\0\0\0\xFF\0\0\xFF\0\0\xFF\0\0\0", 16);  // K R G B
+constexpr Colour kRed = 0xFF0000, kGreen = 0x00FF00, kBlue = 0x0000FF;
+using namespace std::string_literals;
+const std::string kTable = "\0\0\0\0\0\0\xFF\0\0\xFF\0\0\xFF\0\0\0"s;  // black, red, green, blue
 
 class BitmapFiles : public TempFolder {
   protected:
@@ -46,104 +47,75 @@ class BitmapFiles : public TempFolder {
         WriteFile("a.bmp", bytes);
         return LoadBitmapFile("a.bmp");
     }
+    // The picture's rows from the top, a letter for each pixel: "RG/BK".
+    std::string Picture(const std::string& bytes) {
+        const std::optional<Image> image = Load(bytes);
+        std::string rows;
+        for (int y = 0; image && y < image->height; ++y) {
+            if (y > 0) rows += '/';
+            for (int x = 0; x < image->width; ++x) {
+                const Colour colour = image->At(x, y);
+                const auto bits = (colour & 0x800000) >> 21 | (colour & 0x8000) >> 14 | (colour & 0x80) >> 7;
+                rows += std::string_view("KBGCRMYW")[bits];
+            }
+        }
+        return rows;
+    }
 };
 
 TEST_F(BitmapFiles, EveryFormatGivesItsPixels) {
-    const std::string masks565 = Little(0xF800, 4) + Little(0x07E0, 4) + Little(0x001F, 4);
-    const std::string masksBgr = Little(0xFF, 4) + Little(0xFF00, 4) + Little(0xFF0000, 4);
+    const std::string masks = Little(0xF800, 4) + Little(0x07E0, 4) + Little(0x001F, 4);
+    const std::string bgrMasks = Little(0xFF, 4) + Little(0xFF00, 4) + Little(0xFF0000, 4);
     struct Case {
-        std::string name, file;
-        int width;
-        std::vector<Colour> pixels;  // from the top
+        Bmp bmp;
+        std::string picture;
     };
-    using namespace std::string_literals;
-    for (const Case& c : {
-             Case{"24 bits, rows from the bottom",
-                  Bmp{2, 2, 24, "\xFF\0\0\0\xFF\0\0\0\0\0\xFF\xFF\xFF\xFF\0\0"s}.File(),
-                  2,
-                  {R, W, B, G}},
-             Case{"24 bits, rows from the top", Bmp{1, -2, 24, "\0\0\xFF\0\xFF\0\0\0"s}.File(), 1, {R, B}},
-             Case{"last row without padding", Bmp{1, 2, 24, "\0\0\xFF\0\xFF\0\0"s}.File(), 1, {B, R}},
-             Case{"32 bits", Bmp{2, 1, 32, "\0\0\xFF\x7F\xFF\0\0\0"s}.File(), 2, {R, B}},
-             Case{
-                 "32 bits with masks", Bmp{2, 1, 32, "\0\0\xFF\0\xFF\0\0\0"s, masksBgr, 3}.File(), 2, {B, R}},
-             Case{"16 bits", Bmp{3, 1, 16, "\0\x7C\xE0\x03\x1F\0\0\0"s}.File(), 3, {R, G, B}},
-             Case{"16 bits with masks", Bmp{2, 1, 16, "\0\xF8\xE0\x07"s, masks565, 3}.File(), 2, {R, G}},
-             Case{"8 bits", Bmp{3, 1, 8, "\3\2\1\0"s, kFourColours, 0, 4}.File(), 3, {B, G, R}},
-             Case{"8 bits, colour behind the table",
-                  Bmp{2, 1, 8, "\1\xC8\0\0"s, kFourColours}.File(),
-                  2,
-                  {R, K}},
-             Case{"4 bits", Bmp{3, 1, 4, "\x12\x30\0\0"s, kFourColours, 0, 4}.File(), 3, {R, G, B}},
-             Case{"1 bit",
-                  Bmp{10, 1, 1, "\xA0\x40\0\0"s, kFourColours.substr(0, 8)}.File(),
-                  10,
-                  {R, K, R, K, K, K, K, K, K, R}},
-             Case{"runs of 8 bits: run, literals, next row, move, end",
-                  Bmp{4, 3, 8, "\4\1\0\0\0\3\1\2\3\0\0\0\0\2\1\0\2\2\0\1"s, kFourColours, 1}.File(),
-                  4,
-                  {K, G, G, K, R, G, B, K, R, R, R, R}},
-             Case{"runs of 4 bits",
-                  Bmp{5, 2, 4, "\5\x12\0\0\0\5\x12\x31\x20\0\0\1"s, kFourColours, 2}.File(),
-                  5,
-                  {R, G, B, R, G, R, G, R, G, R}},
-             Case{"runs beyond the row are dropped",
-                  Bmp{2, 1, 8, "\xFF\1\0\1"s, kFourColours, 1}.File(),
-                  2,
-                  {R, R}},
-             Case{"the oldest header",
-                  "BM"s + Little(0, 4) + Little(0, 4) + Little(32, 4) + Little(12, 4) + Little(2, 2) +
-                      Little(1, 2) + Little(1, 2) + Little(1, 2) + "\xFF\0\0\0\0\xFF"s + "\x40\0\0\0"s,
-                  2,
-                  {B, R}},
-         }) {
-        const std::optional<Image> image = Load(c.file);
-        ASSERT_TRUE(image) << c.name;
-        EXPECT_EQ(image->width, c.width) << c.name;
-        EXPECT_EQ(image->pixels, c.pixels) << c.name;
+    for (const auto& [bmp, picture] :
+         {Case{{2, 2, 24, "\xFF\0\0\0\xFF\0\0\0\0\0\xFF\xFF\xFF\xFF\0\0"s}, "RW/BG"},  // from the bottom
+          Case{{1, -2, 24, "\0\0\xFF\0\xFF\0\0\0"s}, "R/B"},                           // from the top
+          Case{{1, 2, 24, "\0\0\xFF\0\xFF\0\0"s}, "B/R"},  // the last row without padding
+          Case{{2, 1, 32, "\0\0\xFF\x7F\xFF\0\0\0"s}, "RB"},
+          Case{{2, 1, 32, "\0\0\xFF\0\xFF\0\0\0"s, bgrMasks, 3}, "BR"},
+          Case{{3, 1, 16, "\0\x7C\xE0\x03\x1F\0\0\0"s}, "RGB"},
+          Case{{2, 1, 16, "\0\xF8\xE0\x07"s, masks, 3}, "RG"},
+          Case{{3, 1, 8, "\3\2\1\0"s, kTable, 0, 4}, "BGR"},
+          Case{{2, 1, 8, "\1\xC8\0\0"s, kTable}, "RK"},  // a colour behind the table
+          Case{{3, 1, 4, "\x12\x30\0\0"s, kTable, 0, 4}, "RGB"},
+          Case{{10, 1, 1, "\xA0\x40\0\0"s, kTable.substr(0, 8)}, "RKRKKKKKKR"},
+          // A run, literals, a new row, a move, the end; then runs and literals of 4 bits; an overlong run.
+          Case{{4, 3, 8, "\4\1\0\0\0\3\1\2\3\0\0\0\0\2\1\0\2\2\0\1"s, kTable, 1}, "KGGK/RGBK/RRRR"},
+          Case{{5, 2, 4, "\5\x12\0\0\0\5\x12\x31\x20\0\0\1"s, kTable, 2}, "RGBRG/RGRGR"},
+          Case{{2, 1, 8, "\xFF\1\0\1"s, kTable, 1}, "RR"}}) {
+        EXPECT_EQ(Picture(bmp.File()), picture) << bmp.bits << " bits, compression " << bmp.compression;
     }
+    const std::string oldest = "BM"s + Little(0, 4) + Little(0, 4) + Little(32, 4) + Little(12, 4) +
+                               Little(2, 2) + Little(1, 2) + Little(1, 2) + Little(1, 2);
+    EXPECT_EQ(Picture(oldest + "\xFF\0\0\0\0\xFF"s + "\x40\0\0\0"s), "BR");
     EXPECT_THAT(TakeMessages(), IsEmpty());
 }
 
 TEST_F(BitmapFiles, WhatCannotBeReadIsNamed) {
-    const std::string header = "Could not read bitmap header: a.bmp";
-    const std::string memory = "Not enough memory to load bitmap: a.bmp";
-    const std::string rest = "Did not read all of bitmap: a.bmp";
-    const auto patched = [](std::size_t at, std::uint32_t value) {
-        return Bmp{1, 1, 24, "1234"}.File().replace(at, 4, Little(value, 4));
+    const std::string sound = Bmp{1, 1, 24, "1234"}.File();
+    const auto patched = [&](std::size_t at, std::uint32_t value) {
+        return std::string(sound).replace(at, 4, Little(value, 4));
     };
-    struct Case {
-        std::string file, message;
-    };
-    for (const Case& c : {
-             Case{"", header},
-             Case{"BM and so on", header},
-             Case{Bmp{}.File().substr(0, 20), header},
-             Case{"XY" + Bmp{}.File().substr(2), header},
-             Case{patched(10, 13), header},          // pixels inside the file header
-             Case{patched(10, 53), header},          // pixels inside the information header
-             Case{patched(10, 0xFFFFFFFF), header},  // pixels behind the file
-             Case{patched(14, 39), header},          // an unknown information header
-             Case{patched(14, 0xFFFFFFFF), header},
-             Case{patched(28, 3), header},  // bits
-             Case{patched(30, 1), header},  // runs of 24 bits
-             Case{patched(30, 4), header},  // a JPEG
-             Case{Bmp{0, 1}.File(), header},
-             Case{Bmp{-1, 1}.File(), header},
-             Case{Bmp{1, 0}.File(), header},
-             Case{Bmp{0x7FFFFFFF, 0x7FFFFFFF}.File(), memory},
-             Case{Bmp{1, -0x7FFFFFFF - 1}.File(), memory},
-             Case{Bmp{4096, 4097}.File(), memory},
-             Case{Bmp{4096, 4096}.File(), rest},
-             Case{Bmp{2, 2, 24,
-                      "12345678"
-                      "12345"}
-                      .File(),
-                  rest},
-             Case{Bmp{2, 2, 8, std::string("\2\1\0\0", 4), kFourColours, 1}.File(), rest},
-         }) {
-        EXPECT_FALSE(Load(c.file)) << c.message;
-        EXPECT_THAT(TakeMessages(), ElementsAre(c.message));
+    const std::pair<const char*, std::vector<std::string>> table[] = {
+        {"Could not read bitmap header: a.bmp",
+         {"", "BM and so on", sound.substr(0, 20), "XY" + sound.substr(2),
+          // Pixels inside either header or behind the file; unknown headers, depths and compressions.
+          patched(10, 13), patched(10, 53), patched(10, 0xFFFFFFFF), patched(14, 39), patched(14, 0xFFFFFFFF),
+          patched(28, 3), patched(30, 1), patched(30, 4),  //
+          Bmp{0, 1}.File(), Bmp{-1, 1}.File(), Bmp{1, 0}.File()}},
+        {"Not enough memory to load bitmap: a.bmp",
+         {Bmp{0x7FFFFFFF, 0x7FFFFFFF}.File(), Bmp{1, -0x7FFFFFFF - 1}.File(), Bmp{4096, 4097}.File()}},
+        {"Did not read all of bitmap: a.bmp",
+         {Bmp{4096, 4096}.File(), Bmp{2, 2, 24, "12345678abcde"}.File(),
+          Bmp{2, 2, 8, "\2\1\0\0"s, kTable, 1}.File()}}};
+    for (const auto& [message, files] : table) {
+        for (const std::string& file : files) {
+            EXPECT_FALSE(Load(file));
+            EXPECT_THAT(TakeMessages(), ElementsAre(message));
+        }
     }
 }
 
@@ -153,12 +125,12 @@ TEST_F(BitmapFiles, OnlyAnInterfacePictureMustExist) {
     EXPECT_FALSE(LoadGraphicsBitmap("Tiles.bmp"));
     EXPECT_THAT(TakeMessages(), ElementsAre("Could not open bitmap file: Data\\Graphics\\Tiles.bmp"));
     WriteFile("Data/Graphics/Tiles.bmp", Bmp{1, 1, 24, std::string("\0\0\xFF\0", 4)}.File());
-    EXPECT_EQ(LoadGraphicsBitmap("tiles.bmp"), Image(1, 1, R));
+    EXPECT_EQ(LoadGraphicsBitmap("tiles.bmp"), Image(1, 1, kRed));
 }
 
 TEST_F(BitmapFiles, SavedFileIsRowsFromTheBottomAndReadsBack) {
     Image image(2, 2);
-    image.pixels = {R, G, B, 0x123456};
+    image.pixels = {kRed, kGreen, kBlue, 0x123456};
     ASSERT_TRUE(SaveBitmapFile(image, "out.bmp"));
     const std::string expected(
         "BM\x66\0\0\0\0\0\0\0\x36\0\0\0"                          // 54 + 48 bytes
@@ -191,24 +163,15 @@ TEST_F(BitmapFiles, RandomDamageIsSurvived) {
         constexpr std::pair<std::uint32_t, std::uint32_t> kFormats[] = {
             {1, 0}, {4, 0}, {4, 2}, {8, 0}, {8, 1}, {16, 0}, {16, 3}, {24, 0}, {32, 3}};
         const auto [bits, compression] = kFormats[random() % std::size(kFormats)];
-        std::string file = Bmp{1 + static_cast<int>(random() % 20),
-                               7 - static_cast<int>(random() % 12),
-                               bits,
-                               junk(random() % 900),
-                               junk(4 * (random() % 20)),
-                               compression,
-                               static_cast<std::uint32_t>(random() % 20)}
-                               .File();
+        const int size = 1 + static_cast<int>(random() % 12);
+        std::string file = Bmp{size, 6 - size, bits, junk(random() % 600), junk(40), compression, 10}.File();
         for (auto damage = random() % 4; damage > 0; --damage) {
             file[random() % std::min<std::size_t>(file.size(), 60)] = junk(1)[0];
         }
         file.resize(file.size() - random() % 3 * (random() % file.size()) / 2);
         const std::optional<Image> image = Load(file);
         EXPECT_EQ(TakeMessages().size(), image ? 0U : 1U);
-        if (image) {
-            EXPECT_EQ(image->pixels.size(),
-                      static_cast<std::size_t>(image->width) * static_cast<std::size_t>(image->height));
-        }
+        EXPECT_TRUE(!image || static_cast<int>(image->pixels.size()) == image->width * image->height);
     }
 }
 
