@@ -4,11 +4,14 @@
 #include <filesystem>
 #include <fstream>
 
+#include "computer/move_generator.h"
 #include "positions.h"
+#include "store/preferences.h"
 #include "words/graph_check.h"
 #include "words/word_index.h"
 #include "words/word_list_builder.h"
 #include "words/word_list_editing.h"
+#include "words/word_list_file.h"
 
 namespace quillet {
 namespace {
@@ -72,6 +75,30 @@ void ImportTextFile(benchmark::State& state) {
     std::filesystem::remove(path);
 }
 
+// A computer player's turn with a list of its own: to the largest list and back, a search included in each.
+// With range(0) = 1 the files are read afresh each time, as when they have just changed.
+void SwitchListsAroundATurn(benchmark::State& state) {
+    const PositionSet positions = ReadPositions();
+    const Position& position = positions.byBlanks[0].front();
+    game.board = position.board;
+    preferences.showComputerLetters = false;
+    LargeList();  // sets the data folder
+    LoadWordList("Words");
+    for (auto _ : state) {
+        if (state.range(0) == 1) {
+            AddWord(mainDict, "QQ");  // a changed list is not kept
+            LoadWordList("Words");
+        }
+        WordListName previous;
+        UseOpponentWordList("Large", previous);
+        if (state.range(0) == 1) AddWord(mainDict, "QQ");
+        GenerateMoves(position.rack, std::nullopt, false);
+        RestoreWordList(previous);
+        GenerateMoves(position.rack, std::nullopt, false);
+    }
+}
+
+BENCHMARK(SwitchListsAroundATurn)->ArgName("afresh")->DenseRange(0, 1)->Unit(benchmark::kMillisecond);
 BENCHMARK(LookUpOneWord);
 BENCHMARK(LoadListWithChecksAndIndex)->Unit(benchmark::kMillisecond);
 BENCHMARK(CheckGraph)->Unit(benchmark::kMillisecond);
