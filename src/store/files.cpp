@@ -190,7 +190,7 @@ void ReportWriteFailure(File& file) {
 }
 
 void WriteBytes(File& file, const void* bytes, std::size_t size) {
-    if (std::fwrite(bytes, 1, size, file.stream) != size) ReportWriteFailure(file);
+    if (size > 0 && std::fwrite(bytes, 1, size, file.stream) != size) ReportWriteFailure(file);
 }
 
 // Hands what is buffered to the system; false, with the report made, when that fails.
@@ -283,7 +283,7 @@ bool ReadChar(File& file, char& character) {
 }
 
 bool ReadBlock(File& file, std::span<std::byte> buffer) {
-    return std::fread(buffer.data(), 1, buffer.size(), file.stream) == buffer.size();
+    return buffer.empty() || std::fread(buffer.data(), 1, buffer.size(), file.stream) == buffer.size();
 }
 
 std::uint32_t FileSize(File& file) {

@@ -101,7 +101,7 @@ TEST_F(BitmapFiles, WhatCannotBeReadIsNamed) {
     };
     const std::pair<const char*, std::vector<std::string>> table[] = {
         {"Could not read bitmap header: a.bmp",
-         {"", "BM and so on", sound.substr(0, 20), "XY" + sound.substr(2),
+         {"", "BM and so on", sound.substr(0, 14), sound.substr(0, 20), "XY" + sound.substr(2),
           // Pixels inside either header or behind the file; unknown headers, depths and compressions.
           patched(10, 13), patched(10, 53), patched(10, 0xFFFFFFFF), patched(14, 39), patched(14, 0xFFFFFFFF),
           patched(28, 3), patched(30, 1), patched(30, 4),  //
