@@ -46,14 +46,8 @@ struct FullDisk {
 };
 
 TEST_F(Files, ReadCharFoldsCrLfAndNothingElse) {
-    struct Case {
-        std::string stored, read;
-    };
-    for (const Case& c : {Case{"a\r\nb\r\n", "a\rb\r"}, Case{"a\nb\n", "a\nb\n"}, Case{"a\r\r\nb", "a\r\rb"},
-                          Case{"a\rb\r", "a\rb\r"}, Case{"\r\n\n", "\r\n"}, Case{"\xFF\x1A", "\xFF\x1A"}}) {
-        WriteFile("text", c.stored);
-        EXPECT_EQ(ReadCharacters("text"), c.read) << testing::PrintToString(c.stored);
-    }
+    WriteFile("text", "a\r\nb\nc\r\r\nd\re\r\n\n\xFF\x1A");
+    EXPECT_EQ(ReadCharacters("text"), "a\rb\nc\r\rd\re\r\n\xFF\x1A");
 }
 
 TEST_F(Files, WriteTextEndsLinesWithCrLfAndStopsAtNul) {
@@ -63,25 +57,9 @@ TEST_F(Files, WriteTextEndsLinesWithCrLfAndStopsAtNul) {
     EXPECT_EQ(ReadFile("text"), "one\r\ntwo\r\n");
 }
 
-TEST_F(Files, AppendingCanAlsoRewriteTheStart) {
-    WriteFile("log", "head 1\nline\n");
-    FileRef file = OpenForAppending("log");
-    WriteText(*file, "more\n");
-    SeekTo(*file, 5);
-    WriteText(*file, "2");
-    SeekTo(*file, FileSize(*file));
-    WriteText(*file, "end\n");
-    EXPECT_EQ(ReadFile("log"), "head 1\nline\n") << "nothing is in place before the file is closed";
-    EXPECT_TRUE(CloseFile(std::move(file)));
-    EXPECT_EQ(ReadFile("log"), "head 2\nline\nmore\nend\n");
-}
-
 TEST_F(Files, DroppingAFileKeepsTheOldOne) {
     WriteFile("kept", "old");
-    {
-        FileRef file = CreateForWriting("kept");
-        WriteText(*file, "new");
-    }
+    WriteText(*CreateForWriting("kept"), "new");
     EXPECT_EQ(ReadFile("kept"), "old");
     EXPECT_EQ(CountEntries("."), 1U) << "the temporary file is gone";
     EXPECT_THAT(TakeMessages(), IsEmpty());
@@ -125,9 +103,6 @@ TEST_F(Files, FoldersDevicesAndMissingPlacesAreNeverWritten) {
         EXPECT_FALSE(OpenForAppending(path)) << path;
     }
     EXPECT_FALSE(OpenForReading("folder"));
-    EXPECT_EQ(errno, EISDIR);
-    EXPECT_FALSE(CreateForWriting("none\\file"));
-    EXPECT_EQ(errno, ENOENT);
     EXPECT_EQ(CountEntries("."), 2U);
 }
 
@@ -135,9 +110,7 @@ TEST_F(Files, ReadOnlyFileIsNotReplaced) {
     if (geteuid() == 0) GTEST_SKIP() << "nothing is read-only to root";
     WriteFile("kept", "old");
     std::filesystem::permissions(root / "kept", std::filesystem::perms(0444));
-    EXPECT_FALSE(IsWritable("kept"));
-    EXPECT_FALSE(CreateForWriting("kept"));
-    EXPECT_EQ(errno, EACCES);
+    EXPECT_FALSE(IsWritable("kept") || CreateForWriting("kept"));
 }
 
 TEST_F(Files, NamesAreFoundWithoutRegardToCase) {
@@ -164,8 +137,7 @@ TEST_F(Files, PathsCannotLeaveTheDataFolder) {
     for (const char* path : {"..\\outside", "../outside", "none\\..\\..\\outside"}) {
         EXPECT_FALSE(OpenForReading(path)) << path;
     }
-    EXPECT_TRUE(OpenForReading((root / "outside").string()))
-        << "a path of the system's own is taken as it is";
+    EXPECT_TRUE(OpenForReading((root / "outside").string())) << "a path of the system's own";
 }
 
 TEST_F(Files, TooLongPathFindsNothingRatherThanAnotherFile) {
@@ -175,50 +147,35 @@ TEST_F(Files, TooLongPathFindsNothingRatherThanAnotherFile) {
     FilePath path(longest);
     EXPECT_TRUE(OpenForReading(path));
     path.Append("xyz");
-    EXPECT_FALSE(OpenForReading(path));
-    EXPECT_FALSE(CreateForWriting(path));
-    EXPECT_EQ(errno, ENAMETOOLONG);
+    EXPECT_FALSE(OpenForReading(path) || CreateForWriting(path));
 }
 
 TEST_F(Files, EleventhOpenFileIsUsableButNotTracked) {
     WriteFile("x", "x");
-    std::vector<FileRef> files;
-    for (int i = 0; i < 10; ++i) files.push_back(OpenForReading("x"));
-    EXPECT_THAT(TakeMessages(), IsEmpty());
-    FileRef extra = OpenForReading("x");
-    EXPECT_THAT(TakeMessages(), ElementsAre("Too many open files!"));
-    char character = 0;
-    EXPECT_TRUE(ReadChar(*extra, character));
-    CloseFile(std::move(extra));
-    EXPECT_THAT(TakeMessages(), ElementsAre("Path not found!"));
-
-    CloseFile(std::move(files.back()));
-    files.pop_back();
-    files.front().reset();  // dropping a file frees its place too
-    files.push_back(OpenForReading("x"));
-    files.push_back(OpenForReading("x"));
+    std::vector<FileRef> files(10);
+    for (FileRef& file : files) file = OpenForReading("x");
+    EXPECT_EQ(ReadCharacters("x"), "x");
+    EXPECT_THAT(TakeMessages(), ElementsAre("Too many open files!", "Path not found!"));
+    CloseFile(std::move(files[0]));
+    files[1].reset();  // dropping a file frees its place too
+    files[0] = OpenForReading("x");
+    files[1] = OpenForReading("x");
     EXPECT_THAT(TakeMessages(), IsEmpty());
 }
 
-TEST_F(Files, SubfoldersThatAreHiddenOrReadOnlyAreNotListed) {
-    for (const char* name : {"Zebra", "apple", "Apple pie", "Locked", ".hidden",
-                             "\xC5\x81\xC3\xB3"
-                             "d\xC5\xBA"}) {
-        MakeFolder(std::string("Scenarios/") + name);
+TEST_F(Files, ListsAreSortedAndLeaveOutWhatIsNotForThePlayer) {
+    for (const char* name :
+         {"Zebra", "apple", "Apple pie", "Locked", ".hidden", "\xC5\x81\xC3\xB3", "d.qld"}) {
+        MakeFolder(std::string("Mixed/") + name);
     }
-    WriteFile("Scenarios/file", "");
-    std::filesystem::permissions(root / "Scenarios/Locked", std::filesystem::perms(0555));
-    EXPECT_THAT(ListSubfolders("scenarios"), ElementsAre("apple", "Apple pie", "Zebra"));
-    EXPECT_THAT(ListSubfolders("none"), IsEmpty());
-}
-
-TEST_F(Files, ListsFilesOfOneExtensionByName) {
+    std::filesystem::permissions(root / "Mixed/Locked", std::filesystem::perms(0555));
     for (const char* name : {"Words.qld", "words 2.QLD", "Large.qld", ".qld", "notes.txt", "qld"}) {
-        WriteFile(std::string("Word Lists/") + name, "");
+        WriteFile(std::string("Mixed/") + name, "");
     }
-    MakeFolder("Word Lists/folder.qld");
-    FileRef unfinished = CreateForWriting("Word Lists\\New.qld");
-    EXPECT_THAT(ListFiles("Word Lists", ".qld"), ElementsAre("", "Large", "Words", "words 2"));
+    FileRef unfinished = CreateForWriting("Mixed\\New.qld");
+    EXPECT_THAT(ListSubfolders("mixed"), ElementsAre("apple", "Apple pie", "d.qld", "Zebra"));
+    EXPECT_THAT(ListFiles("Mixed", ".qld"), ElementsAre("", "Large", "Words", "words 2"));
+    EXPECT_THAT(ListSubfolders("none"), IsEmpty());
 }
 
 }  // namespace
