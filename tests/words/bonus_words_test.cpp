@@ -19,29 +19,23 @@ TEST(BonusWords, DictHoldsTheTableUpToTheFirstEntryThatIsNoWord) {
 using BonusWordsFile = TempFolder;
 
 TEST_F(BonusWordsFile, IsReadLineByLine) {
-    struct Case {
-        std::string contents;
-        std::vector<std::string> words;
-    };
     std::string many;
     for (int i = 0; i < 120; ++i) many += "A\r\n";
-    for (const Case& c : {
-             Case{"QUIZ\r\nAXE\r\n", {"QUIZ", "AXE"}},
-             Case{"QUIZ\r\nAXE", {"QUIZ", "AXE"}},
-             Case{"ABCDEFGHIJKLMNOPQRST\r\nAXE\r\n", {"ABCDEFGHIJKLMNOP", "AXE"}},
-             Case{"quiz\r\n", {"quiz"}},
-             Case{many, std::vector<std::string>(100, "A")},
-             Case{"", {}},
-         }) {
-        WriteFile("Scenarios/Mine/602.str", c.contents);
+    const std::pair<std::string, std::vector<std::string>> cases[] = {
+        {"QUIZ\r\nAXE\r\n", {"QUIZ", "AXE"}},
+        {"ABCDEFGHIJKLMNOPQRST\r\nquiz\r\nAXE", {"ABCDEFGHIJKLMNOP", "quiz", "AXE"}},
+        {many, std::vector<std::string>(100, "A")},
+        {"", {}},
+    };
+    for (const auto& [contents, words] : cases) {
+        WriteFile("Scenarios/Mine/602.str", contents);
         LoadBonusWords("Scenarios\\Mine");
         for (std::size_t i = 0; i < bonusWords.size(); ++i) {
-            EXPECT_EQ(bonusWords[i], i < c.words.size() ? c.words[i] : "") << c.contents;
+            EXPECT_EQ(bonusWords[i], i < words.size() ? words[i] : "") << contents;
         }
     }
     LoadBonusWords("Scenarios\\Gone");
-    EXPECT_EQ(bonusWords[0], "");
-    EXPECT_EQ(bonusDict.numwords, 0);
+    EXPECT_TRUE(bonusWords[0].empty() && bonusDict.numwords == 0);
 }
 
 TEST_F(BonusWordsFile, HoldsEachWordWithALineEnd) {

@@ -8,7 +8,6 @@
 #include <string>
 
 #include "base/messages.h"
-#include "support/recording_presentation.h"
 #include "support/temp_folder.h"
 #include "words/graph_check.h"
 
@@ -24,26 +23,13 @@ Dict DictOf(const std::vector<std::string>& words) {
     return dict;
 }
 
-std::vector<std::uint32_t> EdgesIn(const Dict& dict) {
-    std::vector<std::uint32_t> bits;
-    for (std::int32_t i = 0; i < dict.numedges; ++i)
-        bits.push_back(dict.edges[static_cast<std::size_t>(i)].bits);
-    return bits;
-}
-
 Word Stepped(const Dict& dict, int direction, std::string_view from) {
     Word word(from);
     StepWord(dict, direction, word);
     return word;
 }
 
-class DictTest : public TempFolder {};
-
-TEST_F(DictTest, AdditionsLieInTheArrayBitForBit) {
-    EXPECT_THAT(EdgesIn(DictOf({"AB", "AC", "B"})),
-                ElementsAre(0x41000002, 0x42C00000, 0x42400000, 0x43C00000));
-    EXPECT_THAT(EdgesIn(DictOf({"BE", "AA"})), ElementsAre(0x41000003, 0x42800002, 0x45C00000, 0x41C00000));
-}
+using DictTest = TempFolder;
 
 struct RandomWords {
     const char* name;
@@ -125,54 +111,30 @@ TEST_F(DictTest, SteppingNeedsAWordAndANeighbour) {
                 ElementsAre("Bug: n >= numwords", "Bug: no previous edge", "Bug: no previous edge"));
 }
 
-TEST_F(DictTest, StoreGrowsOnlyWhenSpareEdgesRunOut) {
-    Dict dict;
-    MakeStore(dict, 0);
-    EXPECT_EQ(dict.spareEdges, 20000);
-    MakeStore(dict, 8);
-    EXPECT_EQ(dict.storeBytes(), 8 + 4 * 200);
-    dict = DictOf({"A"});
-    dict.edges.resize(3);
-    dict.spareEdges = 2;
-    AddWord(dict, "BE");
-    EXPECT_EQ(dict.spareEdges, 0);
-    AddWord(dict, "AT");
+TEST_F(DictTest, WordsThatDoNotFitLeaveTheListAsItWas) {
+    const auto full = [](std::int32_t numedges, std::size_t edges, std::int32_t spareEdges) {
+        Dict dict = DictOf({"A"});
+        dict.numedges = numedges;
+        dict.edges.resize(edges);
+        dict.spareEdges = spareEdges;
+        return dict;
+    };
+    Dict dict = full(1, 3, 2);
+    dict.fixedStore = true;
+    EXPECT_FALSE(AddWord(dict, "BEE"));
+    EXPECT_EQ(FindBrokenInvariant(dict), std::nullopt);
+    EXPECT_TRUE(dict.numedges == 1 && AddWord(dict, "BE") && !AddWord(dict, "AT"));
+    dict.fixedStore = false;
+    EXPECT_TRUE(AddWord(dict, "AT"));
     EXPECT_EQ(dict.spareEdges, 19999);
     EXPECT_EQ(FindBrokenInvariant(dict), std::nullopt);
-}
 
-TEST_F(DictTest, WordsThatDoNotFitLeaveTheListAsItWas) {
-    Dict dict = DictOf({"A"});
-    dict.fixedStore = true;
-    dict.edges.resize(3);
-    dict.spareEdges = 2;
-    EXPECT_FALSE(AddWord(dict, "BEE"));
-    EXPECT_EQ(EdgesIn(dict), EdgesIn(DictOf({"A"})));
-    EXPECT_TRUE(AddWord(dict, "BE"));
-
-    dict = DictOf({"A"});
-    dict.edges.resize(kMaxEdges - 1);
-    dict.numedges = kMaxEdges - 1;
-    dict.spareEdges = 0;
+    dict = full(kMaxEdges - 1, kMaxEdges - 1, 0);
     EXPECT_FALSE(AddWord(dict, "BE"));
     EXPECT_TRUE(dict.numwords == 1 && dict.edges[0].lastEdge());
-    EXPECT_TRUE(AddWord(dict, "B"));
-    EXPECT_FALSE(AddWord(dict, "C"));
-    EXPECT_THAT(TakeMessages(),
-                ElementsAre("Not enough memory to add new word.", "Too many words!", "Too many words!"));
-}
-
-TEST_F(DictTest, UnknownWordOfAMoveIsAddedOnlyWhenThePlayerSaysYes) {
-    mainDict = {};
-    recorded = {};
-    headless.answers = {false, true};
-    EXPECT_FALSE(AskToAddWord("QI"));
-    EXPECT_TRUE(AskToAddWord("QI"));
-    EXPECT_TRUE(AskToAddWord("QI"));
-    ASSERT_EQ(headless.questions.size(), 2U);
-    EXPECT_EQ(headless.questions[0].text, "Add \"QI\" to the current word list?");
-    EXPECT_FALSE(headless.questions[0].yesIsDefault);
-    EXPECT_THAT(recorded.calls, ElementsAre("ShowWaitCursor", "ShowArrowCursor"));
+    EXPECT_TRUE(AddWord(dict, "B") && !AddWord(dict, "C"));
+    const auto* const noMemory = "Not enough memory to add new word.";
+    EXPECT_THAT(TakeMessages(), ElementsAre(noMemory, noMemory, "Too many words!", "Too many words!"));
 }
 
 }  // namespace

@@ -57,12 +57,12 @@ TEST(GraphCheck, SixteenLettersAreTheDeepest) {
 // Whatever the bytes, the check ends without leaving the array (the sanitizers watch), and a graph that it
 // finds sound can be walked.
 TEST(GraphCheck, IsSafeOnAnyBytes) {
-    std::mt19937 generator(7);
-    const auto random = [&] { return static_cast<std::uint32_t>(generator()); };
+    std::mt19937 random(7);
     for (int round = 0; round < 20000; ++round) {
         Dict dict = SoundDict();
-        for (unsigned damage = random() % 3; damage < 3; ++damage) {
-            dict.edges[random() % 6].bits ^= round % 2 == 0 ? 1U << random() % 32 : random();
+        for (auto damage = random() % 3; damage < 3; ++damage) {
+            dict.edges[random() % 6].bits ^=
+                round % 2 == 0 ? 1U << random() % 32 : static_cast<std::uint32_t>(random());
         }
         if (FindBrokenInvariant(dict)) continue;
         for (std::int32_t n = 0; n < dict.numwords; ++n) EXPECT_EQ(FindWordIndex(dict, GetWord(dict, n)), n);

@@ -14,10 +14,9 @@ using testing::ElementsAre;
 
 TEST(WordListBuilder, TakesOnlyCleanLowerCaseWords) {
     EXPECT_THAT(WordsOfText("the Cat sat, on mat"), ElementsAre("THE", "ON", "MAT"));
-    EXPECT_THAT(WordsOfText("a\tb\rc\nd\r\ne"), ElementsAre("A", "B", "C", "D", "E"));
-    EXPECT_THAT(WordsOfText(" x2 2x x-x xX x\xE9 \"x\" ok  ok "), ElementsAre("OK", "OK"));
+    EXPECT_THAT(WordsOfText("a\tb\rc\nd\r\ne x2 2x x-x xX x\xE9 \"x\" a "),
+                ElementsAre("A", "B", "C", "D", "E", "A"));
     EXPECT_THAT(WordsOfText("abcdefghijklmno abcdefghijklmnop"), ElementsAre("ABCDEFGHIJKLMNO"));
-    EXPECT_THAT(WordsOfText(""), ElementsAre());
 }
 
 TEST(WordListBuilder, HoldsWhatAddingWordByWordHolds) {
@@ -60,8 +59,7 @@ TEST(WordListBuilder, TooManyEdgesLeaveTheDictAsItWas) {
     Dict dict;
     AddWord(dict, "OLD");
     EXPECT_FALSE(BuildDict(dict, words));
-    ASSERT_EQ(headless.messages.size(), 1U);
-    EXPECT_EQ(headless.messages[0].text, "Too many words!");
+    EXPECT_EQ(headless.messages.at(0).text, "Too many words!");
     EXPECT_TRUE(IsWord(dict, "OLD"));
 }
 
