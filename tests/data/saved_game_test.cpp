@@ -67,9 +67,8 @@ TEST_F(SavedGame, IsReadAndWrittenByteForByte) {
     OpenGameReplay();
     ExpectConsistent();
     EXPECT_EQ(RackOf(1), "ZQXEUOR");
-    EXPECT_EQ(game.players[1].score * 1000 + game.players[2].timeUsed, 10070);
+    EXPECT_TRUE(game.players[1].score == 10 && game.players[2].timeUsed == 70 && game.players[2].isComputer);
     EXPECT_EQ(game.statusLines[1], "Your move Ada L.");
-    EXPECT_TRUE(game.players[2].isComputer && game.players[2].skill == 9);
     EXPECT_EQ(ReadFile("Data/Prefs/201.str") + ReadFile("Data/Prefs/202.str"), "Ada LBo9");
     EXPECT_EQ(Save(), kGood);
     for (int i = 0; i < 4; ++i) UndoMove();
@@ -81,29 +80,26 @@ TEST_F(SavedGame, IsReadAndWrittenByteForByte) {
 }
 
 TEST_F(SavedGame, OddFilesThatStillTellAGameAreOpened) {
-    struct Case {
-        std::string file;
-        const char* firstPlayer;
-        std::vector<std::string> warnings;
-    };
     const std::string start = kGood.substr(0, kGood.find("start game")) + "x=True\r\n";
     std::string many = With(15, "250");
     for (int n = 5; n <= 200; ++n) many += " = 2 {} 0 1\r\n";
-    for (const Case& c : {
-             Case{"% hello\r\n%\r\n" + kGood, "Ada L", {}},
-             Case{With(1, "3"), "Ada L", {"Unexpected version number in game file."}},
-             Case{With(4, std::string(28, '1')), "Ada L", {"Bad letter values!"}},
-             Case{With(5, "9224<2329114268216464221212 "), "Ada L", {"Bad letter counts!"}},
-             Case{With(10, std::string(226, '.')), "Ada L", {"Bad board squares!"}},
-             Case{many, "Ada L", {"Number of moves is too high!"}},
-             Case{start + "rubbish", "Ada L", {}},
-             Case{With(11, "", start), "Who?", {}},
-             Case{With(11, "A B C D E F", start), "A", {}},
-             Case{With(1, "1", With(16, "1 CAT 8 5 8 6 8 7 EQU 10")), "Ada L", {}},
-         }) {
-        ASSERT_TRUE(Load(c.file)) << c.file;
-        EXPECT_EQ(TakeMessages(), c.warnings);
-        EXPECT_EQ(game.players[1].name, c.firstPlayer);
+    const std::tuple<std::string, const char*, std::string> cases[] = {
+        // the file, its first player, and the warning
+        {"% hello\r\n%\r\n" + kGood, "Ada L", ""},
+        {With(1, "3"), "Ada L", "Unexpected version number in game file."},
+        {With(4, std::string(28, '1')), "Ada L", "Bad letter values!"},
+        {With(5, "9224<2329114268216464221212 "), "Ada L", "Bad letter counts!"},
+        {With(10, std::string(226, '.')), "Ada L", "Bad board squares!"},
+        {many, "Ada L", "Number of moves is too high!"},
+        {start + "rubbish", "Ada L", ""},
+        {With(11, "", start), "Who?", ""},
+        {With(11, "A \"long \1 name that is cut\" \"\" D E F", start), "A", ""},
+        {With(1, "1", With(16, "1 CAT 8 5 8 6 8 7 EQU 10")), "Ada L", ""},
+    };
+    for (const auto& [file, firstPlayer, warning] : cases) {
+        ASSERT_TRUE(Load(file)) << file;
+        EXPECT_EQ(TakeMessages(), std::vector<std::string>(warning.empty() ? 0 : 1, warning));
+        EXPECT_EQ(game.players[1].name, firstPlayer);
         EXPECT_LE(game.numPlayers, 4);
         OpenGameReplay();
     }
@@ -111,34 +107,33 @@ TEST_F(SavedGame, OddFilesThatStillTellAGameAreOpened) {
 }
 
 TEST_F(SavedGame, EachFaultIsReportedWithItsLine) {
-    struct Case {
-        int line;
-        std::string value, message;
+    const std::tuple<int, const char*, std::string> cases[] = {
+        {2, "\"My", "Missing end quote on line 2"},
+        {2, "\"My \1own\1\"\r\n%\r\n\r\nx", "Missing \"=\" sign on line 4"},
+        {3, "5x", "Bad integer on line 3"},
+        {3, "", "Bad integer on line 3"},
+        {7, "65536", "Bad cardinal on line 7"},
+        {7, "-1", "Bad cardinal on line 7"},
+        {12, "1", "Bad boolean on line 12"},
+        {13, "CA[ETO", "Incorrect number of letters on line 13"},
+        {14, "iIIIIII", "Bad letter on line 14"},
+        {16, "3 {} 0 1", "Bad player number on line 16"},
+        {16, "1 ABCDEFGHIJKLM 0 1", "Bad move length on line 16"},
+        {16, "1 ABCDEFGH 8 1 8 2 8 3 8 4 8 5 8 6 8 7 8 8 \"\" 0 1", "Bad move length on line 16"},
+        {16, "1 {ABCDEFGH} ABCDEFGH 0 1", "Bad move length on line 16"},
+        {16, "1 { 0 1", "} expected on line 16"},
+        {16, "1 {AB} C 0 1", "Bad replacement letters on line 16"},
+        {16, "1 A[ 8 8 \"\" 0 1", "Bad blank on line 16"},
+        {16, "1 A} 8 8 \"\" 0 1", "Bad move on line 16"},
+        {16, "1 A 1 8 \"\" 0 1", "Bad row coord on line 16"},
+        {16, "1 A 8 16 \"\" 0 1", "Bad col coord on line 16"},
+        {16, "1 A 8 8 AB 0 1", "Bad new letters on line 16"},
+        {16, "1 A 8 8 \"\" 2000000000 0", "Bad integer on line 16"},
+        {16, "1 A 8 8 \"\" 0 -2147483648", "Bad integer on line 16"},
     };
-    for (const Case& c : {
-             Case{2, "\"My", "Missing end quote on line 2"},
-             Case{2, "\"My \1own\1\"\r\n%\r\n\r\nx", "Missing \"=\" sign on line 4"},
-             Case{3, "5x", "Bad integer on line 3"},
-             Case{7, "65536", "Bad cardinal on line 7"},
-             Case{12, "1", "Bad boolean on line 12"},
-             Case{13, "CA[ETO", "Incorrect number of letters on line 13"},
-             Case{14, "iIIIIII", "Bad letter on line 14"},
-             Case{16, "3 {} 0 1", "Bad player number on line 16"},
-             Case{16, "1 ABCDEFGHIJKLM 0 1", "Bad move length on line 16"},
-             Case{16, "1 ABCDEFGH 8 1 8 2 8 3 8 4 8 5 8 6 8 7 8 8 \"\" 0 1", "Bad move length on line 16"},
-             Case{16, "1 {ABCDEFGH} ABCDEFGH 0 1", "Bad move length on line 16"},
-             Case{16, "1 { 0 1", "} expected on line 16"},
-             Case{16, "1 {AB} C 0 1", "Bad replacement letters on line 16"},
-             Case{16, "1 A[ 8 8 \"\" 0 1", "Bad blank on line 16"},
-             Case{16, "1 A} 8 8 \"\" 0 1", "Bad move on line 16"},
-             Case{16, "1 A 1 8 \"\" 0 1", "Bad row coord on line 16"},
-             Case{16, "1 A 8 16 \"\" 0 1", "Bad col coord on line 16"},
-             Case{16, "1 A 8 8 AB 0 1", "Bad new letters on line 16"},
-             Case{16, "1 A 8 8 \"\" 2000000000 0", "Bad integer on line 16"},
-             Case{16, "1 A 8 8 \"\" 0 -2147483648", "Bad integer on line 16"},
-         }) {
-        EXPECT_FALSE(Load(With(c.line, c.value))) << c.value;
-        EXPECT_THAT(TakeMessages(), ElementsAre(c.message + " of game.qlg"));
+    for (const auto& [line, value, message] : cases) {
+        EXPECT_FALSE(Load(With(line, value))) << value;
+        EXPECT_THAT(TakeMessages(), ElementsAre(message + " of game.qlg"));
     }
     for (std::size_t size = 0; size < kGood.size() - 1; size += 7) {
         EXPECT_FALSE(Load(kGood.substr(0, size)));

@@ -75,34 +75,27 @@ TEST_F(History, NeedsTheHintsOptionAndMakesComputersWait) {
 }
 
 TEST_F(History, ImpossibleRecordsEndTheProgramWithTheirMessage) {
-    struct Case {
-        const char* letters;
-        const char* newLetters;
-        std::int16_t row;  // of the tile, in column 8
-        std::string message;
+    const std::tuple<const char*, const char*, std::int16_t, std::string> cases[] = {
+        // letters, new letters, row of the tile in column 8, and what is wrong
+        {"E", "", 16, "bad board pos"}, {"E", "", 8, "square should be empty"},
+        {"Z", "", 9, "tile not found"}, {"{Z}", "A", 0, "tile not in rack"},
+        {"E", "AA", 9, "rack full"},    {"E", "Z", 9, "requested letter not in bag"},
     };
-    for (const Case& c : {
-             Case{"E", "", 16, "Bug: bad board pos"},
-             Case{"E", "", 8, "Bug: square should be empty"},
-             Case{"Z", "", 9, "Bug: tile not found"},
-             Case{"{Z}", "A", 0, "Bug: tile not in rack"},
-             Case{"E", "AA", 9, "Bug: rack full"},
-             Case{"E", "Z", 9, "Bug: requested letter not in bag"},
-         }) {
+    for (const auto& [letters, newLetters, row, fault] : cases) {
         headless = {};
         game = FreshGameState();
         game.numPlayers = 2;
         game.dealOnSetUp = false;
         game.startRacks = {{"CATEIOU", "ZQJXKVW"}};
         game.board[8][8] = {.kind = 9, .state = SquareState::Frozen, .letter = '1'};
-        game.history.records[1] = Record(1, c.letters, c.newLetters);
-        game.history.records[1].numTiles = c.row > 0 ? 1 : 0;
-        game.history.records[1].coords[1] = {c.row, 8};
+        MoveRecord& record = game.history.records[1] = Record(1, letters, newLetters);
+        record.numTiles = row > 0 ? 1 : 0;
+        record.coords[1] = {row, 8};
         game.history.movesCount = 1;
         FillBag();
         SetUpGame();
-        EXPECT_THROW(OpenGameReplay(), ProgramEnd) << c.message;
-        EXPECT_THAT(TakeMessages(), ElementsAre(c.message));
+        EXPECT_THROW(OpenGameReplay(), ProgramEnd) << fault;
+        EXPECT_THAT(TakeMessages(), ElementsAre("Bug: " + fault));
     }
 }
 
