@@ -167,30 +167,14 @@ TEST_F(MoveChoice, WithoutAMoveTilesAreExchangedUnlessThereIsReasonToPass) {
     }
 }
 
-TEST_F(MoveChoice, PlacementStandsOnTheBoard) {
-    FillDict(mainDict, {"TAB"});
-    FillDict(bonusDict, {"TAB"});
-    game.settings.bonusWordsEnabled = true;
-    game.settings.bonusWordValue = 20;
-    game.board[8][7] = game.board[8][9] = {kFirstBlockedKind, SquareState::Frozen, '1', 0};
-    const ChosenMove move = FindMove(kHighestScoringLevel, "B[");
-    EXPECT_EQ(move.score, 24);
-    EXPECT_EQ(move.bonusCount, 1);
-    EXPECT_EQ(move.usedLetters, "[B");
-    EXPECT_EQ(game.board[7][8], (Square{0, SquareState::Placed, '[', 'T'}));
-    EXPECT_EQ(game.board[9][8], (Square{0, SquareState::Placed, 'B', game.board[9][8].blankLetter}));
-}
-
 TEST_F(MoveChoice, WordsAreShownForHintsAndOpenRacksOnly) {
     FillDict(mainDict, {"AT", "TA"});
     for (const auto& [isHint, showsLetters] : {std::pair{false, false}, {false, true}, {true, false}}) {
         game.players[kComputer].isComputer = !isHint;
         preferences.showComputerLetters = showsLetters;
-        game.statusLines[6] = "old";
         FindMove(kHighestScoringLevel, "T");
         TakeBackTiles();
         EXPECT_EQ(game.statusLines[2], isHint || showsLetters ? "TA" : "");
-        EXPECT_EQ(game.statusLines[6], "");
     }
     preferences = {};
 }

@@ -9,6 +9,7 @@
 
 #include "base/messages.h"
 #include "play/turns.h"
+#include "store/item_store.h"
 #include "support/random_games.h"
 #include "words/bonus_words.h"
 
@@ -25,11 +26,7 @@ class Scenarios : public World {
     static std::string PathOf(int id) { return "Scenarios/Mine/" + std::to_string(id) + ".str"; }
     void SetItem(int id, const std::string& value) { WriteFile(PathOf(id), value); }
     std::string Item(int id) { return ReadFile(PathOf(id)); }
-    std::string Items(std::initializer_list<int> ids) {
-        std::string text;
-        for (int id : ids) text += Item(id) + "|";
-        return text;
-    }
+    std::string Items(std::initializer_list<int> ids) { return ReadItems("Scenarios/Mine", ids); }
 };
 
 TEST_F(Scenarios, NewOneHasTheDefaultItemsAndPicturesAndCanBeLoaded) {
@@ -82,7 +79,9 @@ TEST_F(Scenarios, OnlyOneOfOurVersionExists) {
     WriteFile("Scenarios/New/12345.str", "2");
     for (const char* name : {"", "..", "Mine/", "Gone", "New"}) EXPECT_FALSE(ScenarioExists(name)) << name;
     EXPECT_THAT(TakeMessages(), ElementsAre("Unexpected version in scenario!"));
+    SetItem(kVersionItem, "1 and more");
     EXPECT_TRUE(ScenarioExists("MINE"));
+    EXPECT_EQ(Item(kVersionItem), "1") << "rewritten each time";
     EXPECT_EQ(CurrentScenario(), "Mine");
     SetCurrentScenario("Gone");
     EXPECT_THROW(LoadScenario(), ProgramEnd);

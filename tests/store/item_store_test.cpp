@@ -24,7 +24,6 @@ class ItemStores : public TempFolder {
     void SetItem(int id, const std::string& value) {
         WriteFile("Scenarios/Classic/" + std::to_string(id) + ".str", value);
     }
-    std::string Item(int id) { return ReadFile("Scenarios/Classic/" + std::to_string(id) + ".str"); }
 };
 
 TEST_F(ItemStores, NumbersAreStrictAndFallBackToZero) {
@@ -80,20 +79,6 @@ TEST_F(ItemStores, ClosedStoreReadsAsEmptyAndWritesNothing) {
     EXPECT_EQ(ReadItemLong(prefsStore, 800), 0);
     EXPECT_EQ(ReadItemLong(prefsStore, 801), 0) << "nor is a missing item fatal";
     EXPECT_EQ(ReadFile("Data/Prefs/800.str"), "5");
-}
-
-TEST_F(ItemStores, ScenarioOpensOnlyInTheKnownVersion) {
-    EXPECT_FALSE(OpenScenario(Purpose::Reading)) << "no version item";
-    EXPECT_THAT(TakeMessages(), IsEmpty());
-    for (const char* unknown : {"", "0", "2"}) {
-        SetItem(kVersionItem, unknown);
-        EXPECT_FALSE(OpenScenario(Purpose::Changing));
-        EXPECT_THAT(TakeMessages(), ElementsAre("Unexpected version in scenario!"));
-        EXPECT_EQ(Item(kVersionItem), unknown);
-    }
-    SetItem(kVersionItem, "1 and more");
-    EXPECT_TRUE(OpenScenario(Purpose::Reading));
-    EXPECT_EQ(Item(kVersionItem), "1") << "rewritten each time";
 }
 
 }  // namespace

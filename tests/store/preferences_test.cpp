@@ -21,11 +21,7 @@ class PreferenceItems : public TempFolder {
     void SetItem(int id, const std::string& value) {
         WriteFile("Data/Prefs/" + std::to_string(id) + ".str", value);
     }
-    std::string Items(std::initializer_list<int> ids) {
-        std::string text;
-        for (int id : ids) text += ReadFile("Data/Prefs/" + std::to_string(id) + ".str") + "|";
-        return text;
-    }
+    std::string Items(std::initializer_list<int> ids) { return ReadItems("Data/Prefs", ids); }
 };
 
 TEST_F(PreferenceItems, StoreWithoutVersionIsMadeAnewWithDefaults) {

@@ -1,6 +1,7 @@
 #include "support/random_games.h"
 
 #include <algorithm>
+#include <iterator>
 #include <sstream>
 #include <utility>
 
@@ -13,11 +14,10 @@
 namespace quillet {
 namespace {
 
-const std::vector<std::string> kWords{
-    "AA",  "AE",  "AI",  "AT",  "BE",  "DO",  "EH",   "EL",   "EN",   "ER",    "GO",     "HI",    "IN",
-    "IT",  "JO",  "MA",  "MU",  "NO",  "OE",  "OX",   "QI",   "RE",   "SH",    "TO",     "UN",    "US",
-    "ZA",  "ACE", "AGE", "AIR", "ART", "AXE", "BAT",  "CAT",  "DEN",  "EAR",   "EEL",    "EON",   "FOX",
-    "GNU", "INN", "KEY", "OAT", "RAT", "SEA", "CART", "LION", "QUIZ", "STARE", "RETAIN", "SENIOR"};
+constexpr auto kWords =
+    "AA AE AI AT BE DO EH EL EN ER GO HI IN IT JO MA MU NO OE OX QI RE SH TO UN US ZA ACE AGE AIR ART AXE "
+    "BAT "
+    "CAT DEN EAR EEL EON FOX GNU INN KEY OAT RAT SEA CART LION QUIZ STARE RETAIN SENIOR";
 
 std::string Sorted(std::string text) {
     std::ranges::sort(text);
@@ -27,7 +27,8 @@ std::string Sorted(std::string text) {
 }  // namespace
 
 RandomGame::RandomGame(std::uint32_t seed) : random(seed) {
-    SetWords(kWords);
+    std::istringstream words(kWords);
+    SetWords({std::istream_iterator<std::string>(words), {}});
     preferences.timerEnabled = seed % 3 == 0;
     preferences.timeLimit = 2;
     const std::vector<std::string> names{"Ada 9", "Bo", "Cy \"the\" 4", "Ren\xE9 7"};

@@ -1,19 +1,22 @@
 #include "support/recording_presentation.h"
 
 #include <algorithm>
+#include <sstream>
 
 #include "base/presentation.h"
 
 namespace quillet {
 namespace {
 
-void Record(const std::string& call) {
-    recorded.calls.push_back(call);
-    const auto action = recorded.whenCalled.find(call.substr(0, call.find(' ')));
+template <typename... Values>
+void Record(const char* function, const Values&... values) {
+    std::ostringstream call;
+    call << function;
+    ((call << ' ' << values), ...);
+    recorded.calls.push_back(call.str());
+    const auto action = recorded.whenCalled.find(function);
     if (action != recorded.whenCalled.end()) action->second();
 }
-
-std::string Square(int row, int col) { return " " + std::to_string(row) + " " + std::to_string(col); }
 
 }  // namespace
 
@@ -22,29 +25,21 @@ int RecordedPresentation::Count(const std::string& beginning) const {
         std::ranges::count_if(calls, [&](const std::string& call) { return call.starts_with(beginning); }));
 }
 
-void ShowStatusLine(int line, std::string_view text) {
-    Record("ShowStatusLine " + std::to_string(line) + " " + std::string(text));
-}
-void DrawBoardTile(int row, int col, char letter) {
-    Record("DrawBoardTile" + Square(row, col) + " " + letter);
-}
-void DrawPlayedBlank(int row, int col) { Record("DrawPlayedBlank" + Square(row, col)); }
+void ShowStatusLine(int line, std::string_view text) { Record("ShowStatusLine", line, text); }
+void DrawBoardTile(int row, int col, char letter) { Record("DrawBoardTile", row, col, letter); }
+void DrawPlayedBlank(int row, int col) { Record("DrawPlayedBlank", row, col); }
 void FlashSquares(std::span<const BoardPosition> squares) {
-    std::string call = "FlashSquares";
-    for (const BoardPosition& square : squares) call += Square(square.row, square.col);
-    Record(call);
+    std::ostringstream list;
+    for (const BoardPosition& at : squares) list << (at == squares[0] ? "" : " ") << at.row << ' ' << at.col;
+    Record("FlashSquares", list.str());
 }
 void RefreshForTurn() { Record("RefreshForTurn"); }
 void UpdateScorePreview() { Record("UpdateScorePreview"); }
 void RedrawPanels() { Record("RedrawPanels"); }
 void RedrawWindow() { Record("RedrawWindow"); }
-void ShowOpponentMood(int mood) { Record("ShowOpponentMood " + std::to_string(mood)); }
-void LoadSquarePictures(std::string_view scenarioFolder) {
-    Record("LoadSquarePictures " + std::string(scenarioFolder));
-}
-void SaveSquarePictures(std::string_view scenarioFolder) {
-    Record("SaveSquarePictures " + std::string(scenarioFolder));
-}
+void ShowOpponentMood(int mood) { Record("ShowOpponentMood", mood); }
+void LoadSquarePictures(std::string_view scenarioFolder) { Record("LoadSquarePictures", scenarioFolder); }
+void SaveSquarePictures(std::string_view scenarioFolder) { Record("SaveSquarePictures", scenarioFolder); }
 void ShowWaitCursor() { Record("ShowWaitCursor"); }
 void ShowArrowCursor() { Record("ShowArrowCursor"); }
 void OpenStatus(std::string_view line1, std::string_view line2, std::string_view line3,
@@ -61,10 +56,10 @@ void SetStatusProgress(std::uint32_t done, std::uint32_t total) {
 }
 void CloseStatus() { Record("CloseStatus"); }
 void PlaySoundFile(bool inSoundsFolder, std::string_view name) {
-    Record(std::string("PlaySoundFile ") + (inSoundsFolder ? "sounds " : "opponents ") + std::string(name));
+    Record("PlaySoundFile", inSoundsFolder ? "sounds" : "opponents", name);
 }
 std::optional<char> AskBlankLetter(int row, int col) {
-    Record("AskBlankLetter" + Square(row, col));
+    Record("AskBlankLetter", row, col);
     if (recorded.blankLetters.empty()) return std::nullopt;
     const std::optional<char> answer = recorded.blankLetters.front();
     recorded.blankLetters.pop_front();
@@ -74,9 +69,6 @@ bool ChoosePlayers() {
     Record("ChoosePlayers");
     return recorded.playersChosen;
 }
-bool PointerIsOverStatistics() {
-    Record("PointerIsOverStatistics");
-    return recorded.pointerOverStatistics;
-}
+bool PointerIsOverStatistics() { return recorded.pointerOverStatistics; }
 
 }  // namespace quillet

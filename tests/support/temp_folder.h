@@ -51,8 +51,11 @@ class TempFolder : public testing::Test {
         WriteFile(path, contents);
     }
 
-    void Shorten(const std::string& path, std::size_t size) {
-        std::filesystem::resize_file(root / path, size);
+    // The items of a store's folder, each with "|" behind it.
+    std::string ReadItems(const std::string& folder, std::initializer_list<int> ids) {
+        std::string text;
+        for (int id : ids) text += ReadFile(folder + "/" + std::to_string(id) + ".str") + "|";
+        return text;
     }
 
     void Remove(const std::string& path) { std::filesystem::remove(root / path); }

@@ -39,15 +39,6 @@ TEST(WordListBuilder, HoldsWhatAddingWordByWordHolds) {
     }
 }
 
-TEST(WordListBuilder, ListsLieInTheOrderOfAWalk) {
-    Dict dict;
-    BuildDict(dict, {"B", "AC", "AB", "BYE", "AC"});
-    std::string letters;
-    for (std::size_t i = 0; i < 6; ++i) letters += dict.edges[i].letter();
-    EXPECT_EQ(letters, "ABBCYE");
-    EXPECT_EQ(TextOfWords(dict), "ab\r\nac\r\nb\r\nbye\r\n");
-}
-
 TEST(WordListBuilder, TooManyEdgesLeaveTheDictAsItWas) {
     headless = {};
     std::vector<Word> words(26 * 26 * 26 * 20);
