@@ -7,6 +7,7 @@
 #include <span>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "base/messages.h"
 #include "base/presentation.h"
@@ -169,14 +170,18 @@ void ReadBoard(LineReader& reader) {
 
 // Names beyond the fourth are passed over.
 void ReadPlayers(LineReader& reader) {
+    std::vector<PlayerName> names;
     reader.BeginLine();
-    game.numPlayers = 0;
-    while (!reader.AtLineEnd() && game.numPlayers < kMaxPlayers) {
-        game.players[++game.numPlayers].name = reader.ReadWord<PlayerName::capacity()>();
+    while (!reader.AtLineEnd() && names.size() < kMaxPlayers) {
+        names.push_back(reader.ReadWord<PlayerName::capacity()>());
     }
     reader.EndLine();
-    if (game.numPlayers == 0) game.players[++game.numPlayers].name = "Who?";
-    for (int p = 1; p <= game.numPlayers; ++p) PlayerKindFromName(p);
+    if (names.empty()) names.emplace_back("Who?");
+    game.numPlayers = 0;
+    for (const PlayerName& name : names) {
+        game.players[++game.numPlayers].name = name;
+        PlayerKindFromName(game.numPlayers);
+    }
 }
 
 void CheckCodes(const LineReader& reader, std::string_view codes) {

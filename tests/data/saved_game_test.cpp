@@ -147,12 +147,14 @@ TEST_F(SavedGame, FailedLoadNeverLeavesHalfAGameInPlay) {
     for (const auto& [file, goesOn] : {std::pair{With(2, "Gone"), true},
                                        {With(3, "x"), true},
                                        {With(2, "Other", With(3, "x")), false},
+                                       {With(11, "\"Ada"), false},
                                        {With(12, "x"), false}}) {
         StartGame({"Ada", "Bo"});
         const std::string before = GameText();
         EXPECT_FALSE(Load(file));
         EXPECT_EQ(GameText() == before, goesOn);
         EXPECT_EQ(game.IsRunning(), goesOn);
+        EXPECT_GT(game.numPlayers, 0);
         EXPECT_EQ(game.statusLines[2] == "select a scenario.", !goesOn);
     }
 }
