@@ -38,6 +38,7 @@ void LoadBonusWords(std::string_view scenarioFolder) {
         }
         CloseFile(std::move(file));
     }
+    for (Word& word : bonusWords) word.Shorten(word.View().find('\0'));
     BuildBonusDict(bonusWords);
 }
 

@@ -23,7 +23,7 @@ void BuildBonusDict(const BonusWordTable& table);
 
 // Reads the bonus words of the scenario in that folder, one a line in its file "602.str", and builds
 // bonusDict. A missing file means none. Of a line the first 16 characters count, of the file the first 100
-// lines; a last line without a line end counts too.
+// lines; a NUL ends a word; a last line without a line end counts too.
 void LoadBonusWords(std::string_view scenarioFolder);
 
 // Writes the table to that file. False, with a warning, when that cannot be done.

@@ -44,16 +44,14 @@ void ShowWaitCursor() { Record("ShowWaitCursor"); }
 void ShowArrowCursor() { Record("ShowArrowCursor"); }
 void OpenStatus(std::string_view line1, std::string_view line2, std::string_view line3,
                 std::string_view line4) {
-    std::string call = "OpenStatus";
-    for (const std::string_view line : {line1, line2, line3, line4}) call += " [" + std::string(line) + "]";
-    Record(call);
+    std::string lines;
+    for (const std::string_view line : {line1, line2, line3, line4}) {
+        lines += (lines.empty() ? "[" : " [") + std::string(line) + "]";
+    }
+    Record("OpenStatus", lines);
 }
-void SetStatusWindowLine(std::string_view text, int line) {
-    Record("SetStatusWindowLine " + std::to_string(line) + " " + std::string(text));
-}
-void SetStatusProgress(std::uint32_t done, std::uint32_t total) {
-    Record("SetStatusProgress " + std::to_string(done) + " " + std::to_string(total));
-}
+void SetStatusWindowLine(std::string_view text, int line) { Record("SetStatusWindowLine", line, text); }
+void SetStatusProgress(std::uint32_t done, std::uint32_t total) { Record("SetStatusProgress", done, total); }
 void CloseStatus() { Record("CloseStatus"); }
 void PlaySoundFile(bool inSoundsFolder, std::string_view name) {
     Record("PlaySoundFile", inSoundsFolder ? "sounds" : "opponents", name);

@@ -24,6 +24,7 @@ TEST_F(BonusWordsFile, IsReadLineByLine) {
     const std::pair<std::string, std::vector<std::string>> cases[] = {
         {"QUIZ\r\nAXE\r\n", {"QUIZ", "AXE"}},
         {"ABCDEFGHIJKLMNOPQRST\r\nquiz\r\nAXE", {"ABCDEFGHIJKLMNOP", "quiz", "AXE"}},
+        {std::string("QUIZ\0X\r\nAXE\r\n", 13), {"QUIZ", "AXE"}},
         {many, std::vector<std::string>(100, "A")},
         {"", {}},
     };
