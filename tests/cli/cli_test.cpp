@@ -117,7 +117,7 @@ TEST_F(CliTest, CheckNamesEachProblemOfADataFolder) {
 
     std::filesystem::copy(QUILLET_ASSETS, root, std::filesystem::copy_options::recursive);
     SetByte("Word Lists/Common.qld", 400, '\xFF');
-    Shorten("Word Lists/Large.qld", 5000);
+    WriteFile("Word Lists/Large.qld", ReadFile("Word Lists/Large.qld").substr(0, 5000));
     WriteFile("Scenarios/Duel/301.str", "999");
     WriteFile("Scenarios/Kitchen/402.str", "...");
     WriteFile("Scenarios/Kitchen/602.str", "FORK\r\nSPOON2\r\n");
