@@ -174,7 +174,7 @@ class RunReader {
             const std::uint32_t second = block.Byte(at + 1);
             at += 2;
             if (first > 0) {
-                for (std::uint32_t i = 0; i < first; ++i)
+                for (std::uint32_t i = 0; i < first && x < layout.width; ++i)
                     Put(block.Packed(at - 1, i % PerByte(), layout.bits));
             } else if (second == 1) {
                 return {};
