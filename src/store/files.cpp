@@ -257,8 +257,10 @@ FileRef OpenForReading(std::string_view path) {
     const std::optional<fs::path> place = Locate(path);
     if (!place) return nullptr;
     std::error_code error;
-    if (fs::is_directory(*place, error)) {
-        errno = EISDIR;
+    // A pipe or a device could keep the program waiting, or feed it, for ever.
+    const fs::file_status status = fs::status(*place, error);
+    if (fs::exists(status) && !fs::is_regular_file(status)) {
+        errno = fs::is_directory(status) ? EISDIR : EINVAL;
         return nullptr;
     }
     std::FILE* stream = std::fopen(place->c_str(), "rbe");

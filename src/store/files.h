@@ -60,7 +60,7 @@ struct FileStamp {
 };
 std::optional<FileStamp> StampOf(std::string_view path);
 
-// Opening gives none on failure and reports nothing; errno then says why.
+// Opening gives none on failure and reports nothing; errno then says why. Only plain files are opened.
 FileRef OpenForReading(std::string_view path);
 FileRef CreateForWriting(std::string_view path);
 FileRef OpenForAppending(std::string_view path);  // at the end of an existing file, or creates it
