@@ -125,7 +125,8 @@ void CheckScenario(Problems& problems, const std::string& name) {
 }
 
 void CheckOpponents(Problems& problems) {
-    for (const std::string& name : ListSubfolders(ResourceString(StringId::OpponentsFolder))) {
+    const auto names = ListSubfolders(ResourceString(StringId::OpponentsFolder));
+    for (const std::string& name : names.value_or(std::vector<std::string>{})) {
         const std::string where = FolderPath(StringId::OpponentsFolder, name);
         if (name.size() > Text<10>::capacity()) problems.Add(where, "the name has more than 10 characters");
         problems.Try(where, [&] {

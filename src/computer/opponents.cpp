@@ -64,8 +64,13 @@ void LoadOpponent(Opponent& opponent) {
 void ListOpponents() {
     opponentTable = {};
     const std::string_view folder = ResourceString(StringId::OpponentsFolder);
-    if (!FolderExists(folder)) Warning("The ", folder, " folder is missing!");
-    for (const std::string& name : ListSubfolders(folder)) {
+    const auto names = ListSubfolders(folder);
+    if (!FolderExists(folder)) {
+        Warning("The ", folder, " folder is missing!");
+    } else if (!names) {
+        Warning("FindFirstFile failed!");
+    }
+    for (const std::string& name : names.value_or(std::vector<std::string>{})) {
         if (opponentTable.count == kMaxOpponents) break;
         OpponentAt(++opponentTable.count).name = std::string_view(name);
     }

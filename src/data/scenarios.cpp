@@ -122,7 +122,9 @@ void CopyDefaultPictures(std::string_view folder) {
 }  // namespace
 
 std::vector<std::string> ListScenarios() {
-    std::vector<std::string> names = ListSubfolders(ScenariosFolder());
+    auto listed = ListSubfolders(ScenariosFolder());
+    if (!listed && FolderExists(ScenariosFolder())) Fatal("FindFirstFile failed!");
+    std::vector<std::string> names = std::move(listed).value_or(std::vector<std::string>{});
     std::erase_if(names, [](const std::string& name) { return name.size() > ScenarioName::capacity(); });
     if (names.empty()) Fatal("Sorry, but there are no scenarios!");
     if (names.size() > kMostScenarios) names.resize(kMostScenarios);

@@ -71,11 +71,15 @@ std::optional<std::string> Latin1FromUtf8(std::string_view utf8) {
 
 // --- Paths ---
 
+using Names = std::vector<std::string>;
+
 // The names in a folder, in the order of their bytes; none when it cannot be listed.
-std::vector<std::string> NamesIn(const fs::path& folder) {
-    std::vector<std::string> names;
+std::optional<Names> NamesIn(const fs::path& folder) {
+    Names names;
     std::error_code error;
-    for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
+    fs::directory_iterator entry(folder, error);
+    if (error) return std::nullopt;
+    for (const fs::directory_iterator end; !error && entry != end; entry.increment(error)) {
         if (auto name = Latin1FromUtf8(entry->path().filename().string())) names.push_back(*std::move(name));
     }
     std::ranges::sort(names);
@@ -87,7 +91,7 @@ fs::path EntryOf(const fs::path& folder, std::string_view name) {
     fs::path asWritten = folder / Utf8FromLatin1(name);
     std::error_code error;
     if (fs::exists(fs::symlink_status(asWritten, error))) return asWritten;
-    const std::vector<std::string> names = NamesIn(folder);
+    const Names names = NamesIn(folder).value_or(Names{});
     const auto found =
         std::ranges::find_if(names, [&](const std::string& other) { return EqualIgnoringCase(other, name); });
     return found == names.end() ? asWritten : folder / Utf8FromLatin1(*found);
@@ -210,7 +214,7 @@ bool PutInPlace(File& file) {
     return true;
 }
 
-void SortNames(std::vector<std::string>& names) {
+void SortNames(Names& names) {
     std::ranges::stable_sort(
         names, [](const std::string& a, const std::string& b) { return CompareIgnoringCase(a, b) < 0; });
 }
@@ -324,25 +328,25 @@ bool CloseFile(FileRef file) {
     return !file->IsWritten() || PutInPlace(*file);
 }
 
-std::vector<std::string> ListSubfolders(std::string_view folder) {
+std::optional<std::vector<std::string>> ListSubfolders(std::string_view folder) {
     const std::optional<fs::path> place = Locate(folder);
-    if (!place) return {};
-    std::vector<std::string> names = NamesIn(*place);
-    std::erase_if(names, [&](const std::string& name) {
+    std::optional<Names> names = place ? NamesIn(*place) : std::nullopt;
+    if (!names) return std::nullopt;
+    std::erase_if(*names, [&](const std::string& name) {
         std::error_code error;
         const fs::file_status status = fs::status(*place / Utf8FromLatin1(name), error);
         const bool readOnly = (status.permissions() & fs::perms::owner_write) == fs::perms::none;
         return name.starts_with('.') || !fs::is_directory(status) || readOnly;
     });
-    SortNames(names);
+    SortNames(*names);
     return names;
 }
 
 std::vector<std::string> ListFiles(std::string_view folder, std::string_view extension) {
     const std::optional<fs::path> place = Locate(folder);
     if (!place) return {};
-    std::vector<std::string> names;
-    for (std::string& name : NamesIn(*place)) {
+    Names names;
+    for (std::string& name : NamesIn(*place).value_or(Names{})) {
         if (name.size() < extension.size()) continue;
         const std::size_t length = name.size() - extension.size();
         std::error_code error;

@@ -86,8 +86,9 @@ void WriteText(File& file, std::string_view text);  // through WriteChar, up to 
 bool CloseFile(FileRef file);
 
 // The names in a folder, sorted without regard to case; names that Latin-1 cannot express are left out.
-// Subfolders that are marked read-only or whose names begin with "." are left out too.
-std::vector<std::string> ListSubfolders(std::string_view folder);
+// Subfolders that are marked read-only or whose names begin with "." are left out too. None when the folder
+// cannot be listed.
+std::optional<std::vector<std::string>> ListSubfolders(std::string_view folder);
 // Files with that extension (".qld"), in any case; the names come without it.
 std::vector<std::string> ListFiles(std::string_view folder, std::string_view extension);
 

@@ -14,6 +14,7 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::Optional;
 
 class Files : public TempFolder {
   protected:
@@ -174,9 +175,9 @@ TEST_F(Files, ListsAreSortedAndLeaveOutWhatIsNotForThePlayer) {
         WriteFile(std::string("Mixed/") + name, "");
     }
     FileRef unfinished = CreateForWriting("Mixed\\New.qld");
-    EXPECT_THAT(ListSubfolders("mixed"), ElementsAre("apple", "Apple pie", "d.qld", "Zebra"));
+    EXPECT_THAT(ListSubfolders("mixed"), Optional(ElementsAre("apple", "Apple pie", "d.qld", "Zebra")));
     EXPECT_THAT(ListFiles("Mixed", ".qld"), ElementsAre("", "Large", "Words", "words 2"));
-    EXPECT_THAT(ListSubfolders("none"), IsEmpty());
+    EXPECT_EQ(ListSubfolders("none"), std::nullopt);
 }
 
 }  // namespace
