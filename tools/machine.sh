@@ -1,14 +1,15 @@
-# Sourced by ./test and ./run: gets the machine ready and builds.
+# Sourced by ./test, ./run and tools/fuzz: gets the machine ready and builds.
 # shellcheck shell=bash
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 packages=(g++ cmake ninja-build libgtest-dev libgmock-dev libbenchmark-dev libcli11-dev)
+fuzz_packages=(clang-14 libclang-rt-14-dev)
 
-# Installs the Debian packages that are missing; asks nothing.
+# install_missing [PACKAGE...]: installs the Debian packages that are missing, with those named; asks nothing.
 install_missing() {
     local package missing=() as_root=()
     command -v dpkg-query >/dev/null || return 0 # another system: what is missing shows when building
-    for package in "${packages[@]}"; do
+    for package in "${packages[@]}" "$@"; do
         [[ $(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null) == installed ]] || missing+=("$package")
     done
     ((${#missing[@]})) || return 0
