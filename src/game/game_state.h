@@ -26,6 +26,9 @@ constexpr int kMaxTiles = 200;
 constexpr int kMinTiles = 28;
 constexpr int kMaxBlanks = 5;
 constexpr int kStatusLines = 6;
+// What one move counts at most, gained or lost: then no sum of a game leaves its range, whatever a scenario's
+// files say the letters are worth. Only a row of fivefold words could come to more.
+constexpr std::int32_t kMostMovePoints = 5'000'000;
 
 // Positions 1..8, each 0 (empty) or a code. A letter is taken from the lowest position holding it; a tile
 // goes to the lowest empty position.

@@ -44,6 +44,8 @@ MoveRecord& BeginRecord() {
     return record;
 }
 
+std::int32_t PointsOf(int score) { return std::clamp(score, -kMostMovePoints, kMostMovePoints); }
+
 Text<12> InBraces(std::string_view codes) {
     Text<12> text("{");
     text.Append(codes);
@@ -154,8 +156,8 @@ void ReplaceThrownTiles() {
 void RecordPlacement(const PlacedTiles& placed, int score) {
     MoveRecord& record = BeginRecord();
     Player& player = game.Current();
-    record.score = score;
-    player.score += score;
+    record.score = PointsOf(score);
+    player.score += record.score;
     game.passCount = 0;
     FreezePlacedTiles(placed.extent, record, false);
     ShowBingoBonus(placed.count);
@@ -217,7 +219,7 @@ bool RecordComputerMove(const ChosenMove& move) {
         return true;
     }
     game.passCount = 0;
-    record.score = move.score;
+    record.score = PointsOf(move.score);
     if (!TakeFromRack(game.Current().rack, move.usedLetters)) {
         Warning("Bug - used tile not in rack!");
         NewGame(false);
@@ -260,7 +262,7 @@ bool PlayComputerMove() {
     game.bonusWordsThisMove = move.bonusCount;
     if (!RecordComputerMove(move)) return false;
     Player& player = game.Current();
-    player.score += move.score;
+    player.score += game.history.Last().score;
     ++player.turns;
     CheckEndOfGame();
     assert(IsConsistent(game));
