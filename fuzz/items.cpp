@@ -2,6 +2,7 @@
 #include "computer/opponents.h"
 #include "data/scenarios.h"
 #include "game/game_state.h"
+#include "play/end_of_game.h"
 #include "play/turns.h"
 #include "store/item_store.h"
 #include "store/preferences.h"
@@ -62,7 +63,9 @@ void TryInput(std::string_view input) {
     UseOpponent(input);
     UseSmallWordList();
     BeginGame(true);
-    for (int turn = 0; turn < 2 && !game.gameOver; ++turn) FinishTurn();
+    FinishTurn();
+    game.passCount = game.numPlayers;
+    CheckEndOfGame();
 }
 
 }  // namespace quillet::fuzz

@@ -27,6 +27,7 @@ struct PreferenceItem {
 constexpr ItemId kPlayerCountItem = 200;
 constexpr std::size_t kMaxPlayerNames = 4;  // in the items that follow the count
 constexpr char kVersion = '0';
+constexpr std::int32_t kMostInNumber = 99;  // what the dialogs allow at most for any number
 
 // In the order in which they are created and read.
 constexpr std::array kItems{
@@ -90,7 +91,9 @@ struct ItemReader {
     Preferences& values;
 
     void operator()(Flag flag) const { values.*flag = ReadItemBoolean(prefsStore, id); }
-    void operator()(Number number) const { values.*number = ReadItemLong(prefsStore, id); }
+    void operator()(Number number) const {
+        values.*number = std::clamp(ReadItemLong(prefsStore, id), -kMostInNumber, kMostInNumber);
+    }
     void operator()(Name name) const { values.*name = ReadItemText<31>(prefsStore, id); }
     void operator()(std::string_view /*text*/) const {}
 };

@@ -51,7 +51,7 @@ void ClosePrefs();
 // must not change what the player has chosen.
 void DetachPreferences();
 
-// Reads everything in `preferences`. A missing item is Fatal.
+// Reads everything in `preferences`; numbers are then -99..99. A missing item is Fatal.
 void LoadPreferences();
 
 void FlipPreference(bool Preferences::*preference);
