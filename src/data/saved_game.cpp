@@ -26,6 +26,7 @@ constexpr std::uint16_t kVersion = 2;
 constexpr std::uint16_t kVersionWithoutTimes = 1;
 constexpr std::string_view kPass = "{}";
 constexpr char kStoredQuote = '\1';  // stands for a double quote within a word
+// Of all moves together.
 constexpr std::int64_t kMostPoints = std::int64_t{kMaxMoves} * kMostMovePoints;
 // Far beyond what a game can reach, and low enough for all sums to stay in range.
 constexpr std::int32_t kMostSeconds = 100'000'000;

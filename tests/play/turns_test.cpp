@@ -268,6 +268,22 @@ TEST_F(Turns, TwoHundredthMoveEndsTheGame) {
     }
 }
 
+TEST_F(Turns, NoMoveCountsMoreThanSumsCanBear) {
+    for (const std::string player : {"Ada", "Ada 9"}) {
+        StartGame({player, "Bo"});
+        SetWords({"RETAINS"});
+        GiveRack(1, "RETAINS");
+        for (int at = 1; at <= kBoardSize; ++at) {
+            SetSquare(8, at, 'P');
+            SetSquare(at, 8, 'P');
+        }
+        game.settings.letterValues.entries.fill(207);
+        game.Current().isComputer ? Finish() : Play("RETAINS");
+        EXPECT_EQ(game.history.Last().score, kMostMovePoints) << player;
+        EXPECT_EQ(game.players[1].score, kMostMovePoints) << player;
+    }
+}
+
 TEST_F(Turns, EachStartedMinuteOverTheLimitCostsThePenalty) {
     for (const auto& [timeUsed, penalty] : {std::pair{1500, 0}, {1501, 10}, {1559, 10}, {1560, 20}}) {
         preferences.timerEnabled = true;
