@@ -20,13 +20,13 @@ MessageText Joined(std::string_view piece1, std::string_view piece2, std::string
 
 void Warning(std::string_view piece1, std::string_view piece2, std::string_view piece3,
              std::string_view piece4) {
-    ShowMessageBox(MessageKind::Warning, ResourceString(StringId::ProgramTitle),
+    ShowMessageBox(BoxKind::Warning, ResourceString(StringId::ProgramTitle),
                    Joined(piece1, piece2, piece3, piece4));
 }
 
 void Fatal(std::string_view piece1, std::string_view piece2, std::string_view piece3,
            std::string_view piece4) {
-    ShowMessageBox(MessageKind::Fatal, ResourceString(StringId::ProgramTitle),
+    ShowMessageBox(BoxKind::Fatal, ResourceString(StringId::ProgramTitle),
                    Joined(piece1, piece2, piece3, piece4));
     throw ProgramEnd{};
 }

@@ -5,6 +5,8 @@
 #include <cassert>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
+#include <utility>
 #include <vector>
 
 namespace quillet {
@@ -33,6 +35,18 @@ struct Image {
         assert(x >= 0 && x < width && y >= 0 && y < height);
         return static_cast<std::size_t>(y) * static_cast<std::size_t>(width) + static_cast<std::size_t>(x);
     }
+};
+
+// A picture for the window: one pixel for each unit, and for displays drawn at scale 2 perhaps a finer twin
+// of exactly twice the size.
+struct Picture {
+    Image image;
+    std::optional<Image> doubled;
+
+    Picture() = default;
+    Picture(Image single) : image(std::move(single)) {}  // NOLINT: an image is a picture without a twin
+    int Width() const { return image.width; }
+    int Height() const { return image.height; }
 };
 
 }  // namespace quillet

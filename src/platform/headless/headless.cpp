@@ -8,7 +8,7 @@ LocalTime LocalTimeNow() { return headless.localTime; }
 
 void Pause(std::uint32_t milliseconds) { headless.tick += milliseconds; }
 
-void ShowMessageBox(MessageKind kind, std::string_view /*title*/, std::string_view text) {
+void ShowMessageBox(BoxKind kind, std::string_view /*title*/, std::string_view text) {
     headless.messages.push_back({kind, std::string(text)});
 }
 

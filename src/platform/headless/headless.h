@@ -15,7 +15,7 @@
 namespace quillet {
 
 struct ShownMessage {
-    MessageKind kind;
+    BoxKind kind;
     std::string text;
 };
 
