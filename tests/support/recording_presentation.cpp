@@ -26,6 +26,7 @@ int RecordedPresentation::Count(const std::string& beginning) const {
 }
 
 void ShowStatusLine(int line, std::string_view text) { Record("ShowStatusLine", line, text); }
+void DrawSquare(int row, int col) { Record("DrawSquare", row, col); }
 void DrawBoardTile(int row, int col, char letter) { Record("DrawBoardTile", row, col, letter); }
 void DrawPlayedBlank(int row, int col) { Record("DrawPlayedBlank", row, col); }
 void FlashSquares(std::span<const BoardPosition> squares) {
@@ -35,8 +36,16 @@ void FlashSquares(std::span<const BoardPosition> squares) {
 }
 void RefreshForTurn() { Record("RefreshForTurn"); }
 void UpdateScorePreview() { Record("UpdateScorePreview"); }
+void RedrawRack() { Record("RedrawRack"); }
+void RedrawLettersLeft() { Record("RedrawLettersLeft"); }
+void FlashLettersLeft() { Record("FlashLettersLeft"); }
+void RedrawAfterMove(int player) { Record("RedrawAfterMove", player); }
 void RedrawPanels() { Record("RedrawPanels"); }
 void RedrawWindow() { Record("RedrawWindow"); }
+void RedrawClock() { Record("RedrawClock"); }
+void RedrawClockDigits() { Record("RedrawClockDigits"); }
+void ToggleMovePicture() { Record("ToggleMovePicture"); }
+void BlinkStartMark() { Record("BlinkStartMark"); }
 void ShowOpponentMood(int mood) { Record("ShowOpponentMood", mood); }
 void LoadSquarePictures(std::string_view scenarioFolder) { Record("LoadSquarePictures", scenarioFolder); }
 void SaveSquarePictures(std::string_view scenarioFolder) { Record("SaveSquarePictures", scenarioFolder); }
@@ -55,6 +64,9 @@ void SetStatusProgress(std::uint32_t done, std::uint32_t total) { Record("SetSta
 void CloseStatus() { Record("CloseStatus"); }
 void PlaySoundFile(bool inSoundsFolder, std::string_view name) {
     Record("PlaySoundFile", inSoundsFolder ? "sounds" : "opponents", name);
+}
+void StartSoundFile(bool inSoundsFolder, std::string_view name) {
+    Record("StartSoundFile", inSoundsFolder ? "sounds" : "opponents", name);
 }
 std::optional<char> AskBlankLetter(int row, int col) {
     Record("AskBlankLetter", row, col);
