@@ -47,7 +47,7 @@ constexpr int kButtonRow = -1;  // `row` of a control in the row of buttons at t
 struct ControlTemplate {
     int id = 0;  // 0: never asked for (labels)
     ControlKind kind = ControlKind::Label;
-    std::string_view text;
+    std::string_view text{};
     GridCell cell;
     int width = 0;   // of edits and lists: characters; of pictures: units; 0 as it comes
     int height = 0;  // of boxes and lists: lines; of pictures: units; 0 as it comes
@@ -88,7 +88,8 @@ void CloseDialog(Dialog& dialog, int result);
 Dialog& OpenModeless(const DialogTemplate& dialogTemplate, DialogHandler handler);
 void CloseModeless(Dialog& dialog);
 
-// The controls of an open dialog. Setting tells the handler nothing.
+// The controls of an open dialog. Setting tells the handler nothing. A text set here is shown as it stands, "&"
+// too. In boxes of many lines CR, LF or CR LF ends a line; what is read from them has CR LF.
 std::string ControlText(Dialog& dialog, int control);
 void SetControlText(Dialog& dialog, int control, std::string_view text);
 void SetProgress(Dialog& dialog, int control, int percent);
@@ -102,6 +103,7 @@ void SetLines(Dialog& dialog, int control, std::size_t count, std::function<std:
 int Choice(Dialog& dialog, int control);
 void SetChoice(Dialog& dialog, int control, int line);  // scrolled into view
 
+// Hidden ones keep their place; of several in one cell at most one is shown.
 void ShowControl(Dialog& dialog, int control, bool shown);
 void EnableControl(Dialog& dialog, int control, bool enabled);
 void FocusControl(Dialog& dialog, int control);
