@@ -1,5 +1,5 @@
 // The menu bar and the accelerator keys. A command's number is 100 times its group and its place in the menu;
-// the groups are those of Group. Scenarios, word lists and help topics are added when the program runs.
+// the groups are those of MenuGroup. Scenarios, word lists and help topics are added when the program runs.
 #pragma once
 
 #include <span>
@@ -8,7 +8,16 @@
 
 namespace quillet {
 
-enum Group { File, Edit, Scenarios, Options, Letters, Words, Help, Sounds = 10 };
+enum MenuGroup {
+    kFileMenu,
+    kEditMenu,
+    kScenarioMenu,
+    kOptionsMenu,
+    kLettersMenu,
+    kWordsMenu,
+    kHelpMenu,
+    kSoundsMenu = 10
+};
 
 constexpr int kFirstScenarioCommand = 205;
 constexpr int kFirstWordListCommand = 514;

@@ -269,7 +269,7 @@ void DispatchCommand(int number) {
     if (command != std::end(kCommands)) return command->run();
     if (const std::string name = ScenarioOf(number); !name.empty()) return ChooseScenario(name);
     if (const std::string name = WordListOf(number); !name.empty()) return ChooseWordList(name);
-    if (number >= kFirstTopicCommand && number / 100 == Help) {
+    if (number >= kFirstTopicCommand && number / 100 == kHelpMenu) {
         return ShowHelp(number - kFirstTopicCommand + 1);
     }
     Beep();

@@ -24,7 +24,7 @@ namespace {
 
 // A menu's list of names, with commands from `firstCommand` on; one of them is the current one.
 struct NameList {
-    Group group;
+    MenuGroup group;
     int firstCommand;
     std::vector<std::string> names{};
 
@@ -57,8 +57,8 @@ struct NameList {
 };
 
 struct MenuState {
-    NameList scenarios{Scenarios, kFirstScenarioCommand};
-    NameList wordLists{Words, kFirstWordListCommand};
+    NameList scenarios{kScenarioMenu, kFirstScenarioCommand};
+    NameList wordLists{kWordsMenu, kFirstWordListCommand};
     std::set<std::string> aboutShown;
     bool disabled = false;
     bool textOperation = false;
@@ -99,8 +99,8 @@ constexpr EnablingRule kEnablingRules[] = {
 
 bool CanBeChosen(int command) {
     const int group = command / 100;
-    if (group == Help) return true;
-    if (group == Options || group == Sounds) return !game.editorActive && !menus.textOperation;
+    if (group == kHelpMenu) return true;
+    if (group == kOptionsMenu || group == kSoundsMenu) return !game.editorActive && !menus.textOperation;
     const auto rule = std::ranges::find(kEnablingRules, command, &EnablingRule::command);
     const bool allowed = rule == std::end(kEnablingRules) || rule->canBeChosen();
     // In the board editor its own commands, copying and pasting pictures, are all there is.
@@ -159,7 +159,7 @@ void ForEachCommand(Visit visit) {
 void AppendHelpTopics() {
     int command = kFirstTopicCommand;
     for (const auto& topic : helpTopics) {
-        AppendMenuItem(Help, IsSeparator(topic) ? 0 : command, topic);
+        AppendMenuItem(kHelpMenu, IsSeparator(topic) ? 0 : command, topic);
         ++command;
     }
 }

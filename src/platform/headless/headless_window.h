@@ -111,5 +111,6 @@ void ChooseWindowControlLine(int id, int line);
 void PressControl(Dialog& dialog, int control);
 void TypeText(Dialog& dialog, int control, std::string_view text);
 void ChooseLine(Dialog& dialog, int control, int line);
+void StepArrows(Dialog& dialog, int control, bool up);
 
 }  // namespace quillet
