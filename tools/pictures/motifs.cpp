@@ -319,7 +319,10 @@ void PaintColumn(QPainter& painter) {
 }
 
 void PaintLamp(QPainter& painter) {
-    FillEllipse(painter, {13, 13}, 11, 9, Sheer(kBrassLight, 0.16));
+    QRadialGradient glow(QPointF(13, 11), 13);
+    glow.setColorAt(0, Sheer(kBrassLight, 0.45));
+    glow.setColorAt(1, Sheer(kBrassLight, 0));
+    painter.fillRect(QRectF(0, 0, 26, 26), glow);
     FillText(painter, "R 12,13 2,8", kBrass);
     FillText(painter, "B 7.6,20.4 10.8,2.6 1.3", Across(7, 19, kBrass, kBrassDark));
     FillText(painter, "M 9.4,4 L 16.6,4 L 21,14 L 5,14 Z", Across(5, 21, kFlash, kBrass));
