@@ -185,9 +185,9 @@ void PaintFish(QPainter& painter) {
 
 void PaintCompass(QPainter& painter) {
     FillText(painter, "E 13,13 10.6,10.6", Across(3, 23, kBrassLight, kBrassDark));
-    FillText(painter, "E 13,13 8.4,8.4", kVellum);
-    FillText(painter, "M 13,5.4 L 15.6,13 L 10.4,13 Z", kMadder);
-    FillText(painter, "M 13,20.6 L 15.6,13 L 10.4,13 Z", kInk);
+    FillText(painter, "E 13,13 8.2,8.2", Across(4, 22, kInkDark, kInkLight));
+    FillText(painter, "M 13,5.4 L 15.8,13 L 10.2,13 Z", kMadderPale);
+    FillText(painter, "M 13,20.6 L 15.8,13 L 10.2,13 Z", kVellum);
     FillText(painter, "E 13,13 1.3,1.3", kBrass);
 }
 
