@@ -1,5 +1,6 @@
 #include <array>
 #include <cmath>
+#include <numbers>
 
 #include "faces.h"
 
@@ -69,7 +70,7 @@ void PaintFaceDiscs(Portrait& portrait) {
         disc.setColorAt(1, Darker(portrait.sitter.hair, 0.25));
         FillEllipse(portrait.painter, at, w * 0.285, h * 0.335, disc);
         for (int k = 0; k < 18; ++k) {
-            const double turn = k * 20 * 3.14159265 / 180;
+            const double turn = k * 20 * std::numbers::pi / 180;
             const QPointF out(std::cos(turn), std::sin(turn) * 1.12);
             QPainterPath ray(at + out * w * 0.175);
             ray.lineTo(at + out * w * 0.245);
@@ -172,7 +173,7 @@ void PaintChassis(Portrait& portrait) {
     Flat(portrait, "E 0,60 8.4,8.4", kScreen);
     QPainterPath gear;
     for (int k = 0; k < 32; ++k) {
-        const double turn = k * 3.14159265 / 16;
+        const double turn = k * std::numbers::pi / 16;
         const double radius = k % 4 < 2 ? 7 : 5.2;
         const QPointF tip(radius * std::cos(turn), 60 + radius * std::sin(turn));
         k == 0 ? gear.moveTo(tip) : gear.lineTo(tip);
@@ -273,8 +274,6 @@ void PaintBrowPlates(Portrait& portrait) {
     }
 }
 
-void Nothing(Portrait&) {}
-
 }  // namespace
 
 void PaintOwlHead(Portrait& portrait) {
@@ -348,7 +347,7 @@ const Sitter kStrix = {"Strix",
                        Rgb(0x7E6850),
                        Rgb(0x1E2E46),
                        PaintBreast,
-                       Nothing,
+                       PaintNothing,
                        PaintTufts,
                        PaintMonocle};
 
@@ -373,6 +372,6 @@ const Sitter kCogwell = {"Cogwell",
                          PaintChassis,
                          PaintAerial,
                          PaintPlates,
-                         Nothing};
+                         PaintNothing};
 
 }  // namespace quillet

@@ -11,8 +11,6 @@ using namespace palette;
 
 constexpr const char* kShoulders = "M -60,70 C -58,46 -38,39 -16,35 L 16,35 C 38,39 58,46 60,70 Z";
 
-void Nothing(Portrait&) {}
-
 QColor HairLight(const Portrait& portrait) { return Lighter(portrait.sitter.hair, 0.2); }
 QColor HairDark(const Portrait& portrait) { return Darker(portrait.sitter.hair, 0.5); }
 
@@ -344,7 +342,7 @@ const Sitter kBartleby = {"Bartleby",    false,          66,
                           1.8,           false,          Rgb(0xB0866A),
                           Rgb(0x4A3424), Rgb(0x241810),  Rgb(0x4A2A22),
                           Rgb(0x2E3850), Rgb(0x8C8674),  Rgb(0x2C3F4A),
-                          PaintSuit,     Nothing,        PaintPartedHair,
+                          PaintSuit,     PaintNothing,   PaintPartedHair,
                           PaintEarQuill};
 
 const Sitter kOctavia = {"Octavia",
@@ -389,7 +387,7 @@ const Sitter kErasmus = {"Erasmus",
                          Rgb(0x5F7350),
                          Rgb(0x33402C),
                          PaintCoat,
-                         Nothing,
+                         PaintNothing,
                          PaintBeard,
                          PaintSmokingCap};
 
@@ -412,7 +410,7 @@ const Sitter kPip = {"Pip",
                      Rgb(0x8AA8B0),
                      Rgb(0x2B3A5C),
                      PaintJersey,
-                     Nothing,
+                     PaintNothing,
                      PaintStrawHair,
                      PaintFreckles};
 
@@ -435,7 +433,7 @@ const Sitter kZenobia = {"Zenobia",
                          Rgb(0xC59A45),
                          Rgb(0x4A2530),
                          PaintGown,
-                         Nothing,
+                         PaintNothing,
                          PaintHeadWrap,
                          PaintLongEarrings};
 

@@ -74,6 +74,7 @@ void Line(Portrait& portrait, const char* shape, QColor colour, double width, do
 // A small light, which is not capped: its shape is in units of 1.
 void Light(Portrait& portrait, const QPainterPath& shape, const QBrush& brush);
 
+inline void PaintNothing(Portrait&) {}
 QPainterPath HeadShape(const Sitter& sitter);  // in units of 1
 void PaintPersonHead(Portrait& portrait);
 void PaintPersonFeatures(Portrait& portrait);
