@@ -193,6 +193,8 @@ void AttachMenuBar() {
 
 // --- Dialogs ---
 
+int UnitSize() { return state.zoom; }
+
 QWidget* DialogParent() {
     QWidget* modal = QApplication::activeModalWidget();
     return modal != nullptr ? modal : state.window.get();
