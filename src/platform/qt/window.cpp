@@ -221,6 +221,8 @@ void MoveToMiddle(QWidget& dialog, std::optional<Point> middle) {
 
 // --- The pointer ---
 
+QWidget* MainCanvas() { return state.window ? &state.window->CanvasArea() : nullptr; }
+
 Point PointerPosition() { return state.window ? state.window->CanvasArea().LastPointer() : Point{-1, -1}; }
 
 void CapturePointer() {
