@@ -53,6 +53,13 @@ int ScrollBarWidth(const QWidget& widget) {
     return widget.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &widget);
 }
 
+// The toolkit's idea of a size counts only where the template says nothing.
+QSize SizeAsTold(const QWidget& widget, QSize toolkits) {
+    const QSize told = widget.minimumSize();
+    return {told.width() > 0 ? told.width() : toolkits.width(),
+            told.height() > 0 ? told.height() : toolkits.height()};
+}
+
 void UseFixedPitch(QWidget& widget) {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     font.setPointSizeF(widget.font().pointSizeF());
@@ -208,6 +215,8 @@ void LineList::SetHeight(int lines) {
     setMinimumHeight(lines * lineHeight + 2 * frameWidth());
 }
 
+QSize LineList::sizeHint() const { return SizeAsTold(*this, QListView::sizeHint()); }
+
 void LineList::keyPressEvent(QKeyEvent* event) {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (!isEnter || !currentIndex().isValid() || !onChosen) return QListView::keyPressEvent(event);
@@ -244,6 +253,8 @@ void TextArea::SetText(std::string_view text) {
     setPlainText(lines);
     moveCursor(isReadOnly() ? QTextCursor::Start : QTextCursor::End);
 }
+
+QSize TextArea::sizeHint() const { return SizeAsTold(*this, QPlainTextEdit::sizeHint()); }
 
 int TextArea::PositionOf(std::size_t character) const {
     const std::string before = Text().substr(0, character);

@@ -36,6 +36,7 @@ class LineList : public QListView {
   public:
     explicit LineList(QWidget* parent);
     void SetHeight(int lines);
+    QSize sizeHint() const override;
 
     std::function<void()> onChosen;  // Enter; a double click is a signal of the toolkit
     // The line that is the current one already was clicked. That, too, is a choice.
@@ -54,6 +55,7 @@ class TextArea : public QPlainTextEdit {
     void SetText(std::string_view text);
     void Select(std::size_t from, std::size_t count);
     void SetLimit(std::size_t characters) { limit = characters; }
+    QSize sizeHint() const override;
 
   private:
     void KeepToLimit();

@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QTimer>
 #include <algorithm>
 #include <list>
@@ -40,6 +41,11 @@ void TellAll(Dialog& dialog) {
     dialog.isTold = false;
     ShowChanges();  // what the handler drew on the window
     if (dialog.failure && dialog.window) dialog.window->done(QDialog::Rejected);
+}
+
+// Those of a modeless dialog wait until the program takes messages.
+void TellWaiting(Dialog& dialog) {
+    if (dialog.isModal && !dialog.isTold) TellAll(dialog);
 }
 
 void RethrowFailure(Dialog& dialog) {
@@ -150,6 +156,18 @@ void AddControls(Dialog& dialog, std::span<const ControlTemplate> controls) {
     if (!grows) window.layout()->setSizeConstraint(QLayout::SetFixedSize);
 }
 
+// Left alone, the toolkit would shrink what is high to a part of the screen.
+void TakeWantedSize(DialogWindow& window) {
+    window.ensurePolished();
+    QLayout& layout = *window.layout();
+    layout.activate();
+    QSize wanted = layout.totalSizeHint();
+    if (layout.hasHeightForWidth()) {
+        wanted.setHeight(std::max(wanted.height(), layout.totalHeightForWidth(wanted.width())));
+    }
+    window.resize(wanted.boundedTo(window.screen()->availableSize()));
+}
+
 void Open(Dialog& dialog, const DialogTemplate& dialogTemplate) {
     const Setting setting(dialog);
     dialog.window = std::make_unique<DialogWindow>(dialog, DialogParent());
@@ -163,6 +181,7 @@ void TellOpened(Dialog& dialog) {
     dialog.waiting.push_back({.kind = EventKind::Opened});
     TellAll(dialog);
     RethrowFailure(dialog);
+    TakeWantedSize(*dialog.window);
 }
 
 }  // namespace
@@ -170,7 +189,7 @@ void TellOpened(Dialog& dialog) {
 void Tell(Dialog& dialog, EventKind kind, int control) {
     if (dialog.result || dialog.isSet) return;
     dialog.waiting.push_back({.kind = kind, .control = control});
-    if (dialog.isModal && !dialog.isTold) TellAll(dialog);
+    TellWaiting(dialog);
 }
 
 DialogWindow::DialogWindow(Dialog& shownDialog, QWidget* parent)
@@ -200,8 +219,10 @@ bool DialogWindow::eventFilter(QObject* watched, QEvent* event) {
                         reason == Qt::MenuBarFocusReason;
     for (const auto& [id, control] : dialog.controls) {
         if (control.widget != watched || isBack) continue;
-        // The focus is still on its way; the handler may want to send it elsewhere.
-        QTimer::singleShot(0, this, [this, left = id] { Tell(dialog, EventKind::FocusLeft, left); });
+        // Told before anything else happens, but not yet: the focus is still on its way, and the handler may
+        // want to send it elsewhere.
+        dialog.waiting.push_back({.kind = EventKind::FocusLeft, .control = id});
+        QTimer::singleShot(0, this, [this] { TellWaiting(dialog); });
     }
     return false;
 }
