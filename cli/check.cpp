@@ -7,6 +7,7 @@
 #include "command.h"
 #include "computer/opponents.h"
 #include "data.h"
+#include "data/help_topics.h"
 #include "data/scenarios.h"
 #include "platform/headless/headless.h"
 #include "store/bitmap_files.h"
@@ -19,7 +20,6 @@
 namespace quillet {
 namespace {
 
-constexpr std::size_t kMaxTopicLength = 63;
 constexpr std::size_t kMaxDefinitionLength = 255;
 
 struct Problems {
@@ -167,17 +167,17 @@ void CheckDefinitions(Problems& problems) {
 }
 
 void CheckHelp(Problems& problems) {
-    const std::string list = FolderPath(StringId::HelpFolder, "HELPITEMS.txt");
     if (!FolderExists(ResourceString(StringId::HelpFolder))) return;
-    const auto topics = LinesOf(list);
-    if (!topics) {
-        problems.Add(list, "is missing");
-        return;
+    const std::string list = FolderPath(StringId::HelpFolder, "HELPITEMS.txt");
+    problems.Try(list, LoadHelpTopics);
+    const auto lines = LinesOf(list).value_or(std::vector<std::string>{});
+    if (lines.size() > helpTopics.size()) problems.Add(list, "more than 97 topics, or no CR LF at its end");
+    for (const std::string& topic : lines) {
+        if (topic.size() > HelpTopic::capacity()) problems.Add(list, topic + ": more than 63 characters");
     }
-    for (const std::string& topic : *topics) {
-        if (topic.size() > kMaxTopicLength) problems.Add(list, topic + ": more than 63 characters");
-        const std::string path = FolderPath(StringId::HelpFolder, topic + ".txt");
-        if (!topic.starts_with("-") && !FileExists(path)) problems.Add(path, "is missing");
+    for (const HelpTopic& topic : helpTopics) {
+        const std::string path = FolderPath(StringId::HelpFolder, std::string(topic) + ".txt");
+        if (!IsSeparator(topic) && !FileExists(path)) problems.Add(path, "is missing");
     }
 }
 

@@ -35,7 +35,7 @@ namespace fs = std::filesystem;
 void ResetProgram() {
     headless = {};
     pump = {};
-    blink = {};
+    ResetBlink();
     preferences = {};
     ClosePrefs();
     wordList = {};

@@ -16,6 +16,7 @@ namespace quillet {
 void ShowStatusLine(int line, std::string_view text);
 
 // Single squares. A letter is a tile code, "[" for a blank.
+void DrawSquare(int row, int col);  // without its tile
 void DrawBoardTile(int row, int col, char letter);
 void DrawPlayedBlank(int row, int col);  // the letter a played blank stands for, over its blank glyph
 void FlashSquares(std::span<const BoardPosition> squares);  // shown inverted and normal, twice
@@ -23,8 +24,22 @@ void FlashSquares(std::span<const BoardPosition> squares);  // shown inverted an
 // Larger areas, redrawn from the game as it stands.
 void RefreshForTurn();      // a turn begins: opponent's picture, DONE or MOVE, the panels
 void UpdateScorePreview();  // the live "Score = " line while a human arranges tiles
-void RedrawPanels();        // every player's row, the clock, the information panel
+void RedrawRack();          // the current player's rack, its empty places too
+void RedrawLettersLeft();   // the box of that name and the picture of the bag
+void FlashLettersLeft();    // the box shown inverted and normal, twice
+// A player's move is made and the next one's turn begins: that player's moves and score, the rack, the
+// buttons, the letters left.
+void RedrawAfterMove(int player);
+void RedrawPanels();  // every player's row, the clock, the information panel
 void RedrawWindow();
+
+// The clock, as the timer option, the time limit and game.turnSeconds have it.
+void RedrawClock();        // all of its row, which is bare while the timer is off
+void RedrawClockDigits();  // when nothing else of it has changed
+
+// What blinks about once a second.
+void ToggleMovePicture();  // the MOVE button changes to its other picture
+void BlinkStartMark();     // the start square's mark shows or vanishes; a turn begins with its showing
 
 // The computer player to move shows one of its opponent's pictures: 2 pleased, 3 displeased.
 void ShowOpponentMood(int mood);
@@ -47,6 +62,9 @@ void CloseStatus();
 // Plays a wave file to its end: in the sounds folder, or else relative to the opponents' folder. Silent
 // when sounds are off or the file is missing.
 void PlaySoundFile(bool inSoundsFolder, std::string_view name);
+
+// Likewise, but only starts it.
+void StartSoundFile(bool inSoundsFolder, std::string_view name);
 
 // Asks which letter the blank placed on that square stands for; none when the player cancels.
 std::optional<char> AskBlankLetter(int row, int col);

@@ -121,8 +121,9 @@ struct GameState {
 
     bool gameStarted = false;  // a game was started or opened since the program began
     bool gameOver = true;
-    bool dealOnSetUp = true;   // SetUpGame deals new racks, rather than taking startRacks
-    std::uint16_t winner = 0;  // once over: the single player with the best score; 0 for a tie
+    bool dealOnSetUp = true;    // SetUpGame deals new racks, rather than taking startRacks
+    std::uint16_t winner = 0;   // once over: the single player with the best score; 0 for a tie
+    bool editorActive = false;  // the board editor is open, and the game stands still
 
     // The game clock.
     std::uint32_t turnStart = 0;   // tick count in whole seconds at which the turn began; 0 not timed

@@ -69,6 +69,12 @@ void Announce(const Announcement& announcement) {
     if (!IsHushed()) WaitSince(start, kAnnouncementPause);
 }
 
+void TellPassOrThrow(std::string_view letters) {
+    ClearStatusLines();
+    SetStatusLine(2, letters.empty() ? "Pass!" : "Throw back");
+    if (!letters.empty()) SetStatusLine(3, letters);
+}
+
 }  // namespace
 
 bool PlaysOnAlone() { return AllComputers() && !preferences.tellComputerToMove; }
@@ -82,12 +88,15 @@ void ShowBingoBonus(int count) {
 }
 
 void ShowPassOrThrow(std::string_view letters) {
-    ClearStatusLines();
-    SetStatusLine(2, letters.empty() ? "Pass!" : "Throw back");
-    if (!letters.empty()) SetStatusLine(3, letters);
+    TellPassOrThrow(letters);
     ShowOpponentMood(kDispleasedMood);
     if (IsHushed()) return;
     PlayDispleasedVoice();
+    WaitSince(TickCount(), kAnnouncementPause);
+}
+
+void ShowHintToPassOrThrow(std::string_view letters) {
+    TellPassOrThrow(letters);
     WaitSince(TickCount(), kAnnouncementPause);
 }
 

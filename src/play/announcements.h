@@ -17,6 +17,9 @@ void ShowBingoBonus(int count);
 // Announces a computer's pass (no letters) or exchange, and waits a moment.
 void ShowPassOrThrow(std::string_view letters);
 
+// Shows that a hint advises to pass or to exchange, and waits a moment.
+void ShowHintToPassOrThrow(std::string_view letters);
+
 // The sound for the winner, the loser or a tie.
 void PlayEndSound();
 

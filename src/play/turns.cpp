@@ -98,21 +98,34 @@ void ReturnToBag(std::string_view codes) {
     for (LetterCode code : codes) AddToBag(code);
 }
 
+// The tile on it is taken up again.
+void EmptySquare(BoardPosition at) {
+    game.board[at.row][at.col].state = SquareState::Empty;
+    DrawSquare(at.row, at.col);
+}
+
 // The end after a human's move.
 void EndGame() {
     game.gameOver = true;
     ++game.Current().turns;
     FinalAdjust();
+    RedrawAfterMove(game.currentPlayer);
     RedrawPanels();
     ShowWinner();
     if (preferences.saveStatistics) RecordGameStatistics();
     PlayEndSound();
 }
 
-void NextPlayer() {
-    ++game.Current().turns;
+void PassTurnOn() {
+    const int mover = game.currentPlayer;
     game.currentPlayer = game.NextInTurn();
     StartTurn();
+    RedrawAfterMove(mover);
+}
+
+void NextPlayer() {
+    ++game.Current().turns;
+    PassTurnOn();
 }
 
 void EndGameOrNextPlayer(bool ends) {
@@ -193,8 +206,12 @@ ChosenMove FindComputerMove() {
     const Opponent& opponent = opponentTable.entries[static_cast<std::size_t>(player.opponent)];
     WordListName previous;
     const bool switched = UseOpponentWordList(opponent.lexicon, previous);
+    if (switched) ShowWaitCursor();  // again: loading a list ends with the arrow
     const ChosenMove move = FindMove(player.skill, codes.View().substr(0, kRackSize));
-    if (switched) RestoreWordList(previous);
+    if (switched) {
+        RestoreWordList(previous);
+        ShowWaitCursor();
+    }
     return move;
 }
 
@@ -225,9 +242,10 @@ bool RecordComputerMove(const ChosenMove& move) {
         NewGame(false);
         return false;
     }
+    RedrawRack();
     const PlacedTiles placed = CollectPlacedTiles();
     if (placed.count == 0) {
-        formedWords.count = 0;
+        formedWords = {};
         record.letters = InBraces(move.usedLetters);
         ShowPassOrThrow(move.usedLetters);
         RefillRack();
@@ -267,12 +285,12 @@ bool PlayComputerMove() {
     CheckEndOfGame();
     assert(IsConsistent(game));
     if (game.gameOver) {
+        RedrawAfterMove(game.currentPlayer);
         RedrawPanels();
         ShowWinner();
         FinishComputerGame();
     } else {
-        game.currentPlayer = game.NextInTurn();
-        StartTurn();
+        PassTurnOn();
     }
     return true;
 }
@@ -343,7 +361,7 @@ void ThrowAllBack() {
     ForEachSquare([](BoardPosition at, const Square& square) {
         if (!square.IsPlaced()) return;
         game.thrownBack.Append(square.letter);
-        game.board[at.row][at.col].state = SquareState::Empty;
+        EmptySquare(at);
     });
     BeginRecord().letters = InBraces(game.thrownBack);
     static constexpr std::array kWholeRack{1, 2, 3, 4, 5, 6, 7};
@@ -362,12 +380,15 @@ void RestoreTiles() {
     };
     ForEachSquare([&](BoardPosition at, const Square& square) {
         if (!square.IsPlaced()) return;
-        game.board[at.row][at.col].state = SquareState::Empty;
+        EmptySquare(at);
         putOnRack(square.letter, "Bug in RestoreTiles!");
     });
     for (LetterCode code : game.thrownBack) putOnRack(code, "Bug in RestoreThrownTiles!");
     game.thrownBack.Clear();
-    if (moved) UpdateScorePreview();
+    if (!moved) return;
+    RedrawRack();
+    RedrawLettersLeft();
+    UpdateScorePreview();
 }
 
 void NewGame(bool redraw) {
@@ -391,7 +412,7 @@ void BeginGame(bool redraw) {
     game.history.movesCount = 0;
     game.history.redoCount = 0;
     game.passCount = 0;
-    formedWords.count = 0;
+    formedWords = {};
     game.timeLimit = preferences.timeLimit;
     game.timePenalty = preferences.timePenalty;
     ResetExchangeCounts();

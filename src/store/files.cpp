@@ -234,6 +234,11 @@ void SetDataFolder(const std::string& folder) { dataFolder = folder; }
 
 const std::string& DataFolder() { return dataFolder; }
 
+std::optional<std::string> SystemPath(std::string_view path) {
+    const std::optional<fs::path> place = Locate(path);
+    return place ? std::optional(place->string()) : std::nullopt;
+}
+
 bool FolderExists(std::string_view path) { return fs::is_directory(StatusOf(path)); }
 
 bool FileExists(std::string_view path) {

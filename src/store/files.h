@@ -42,6 +42,9 @@ using FileRef = std::unique_ptr<File, FileDeleter>;
 void SetDataFolder(const std::string& folder);
 const std::string& DataFolder();
 
+// The file system's own name for a path; none for one that cannot lie anywhere. Nothing need be there.
+std::optional<std::string> SystemPath(std::string_view path);
+
 bool FolderExists(std::string_view path);
 bool FileExists(std::string_view path);
 bool IsWritable(std::string_view path);  // a file that exists and may be changed

@@ -26,7 +26,7 @@ class MoveChoice : public testing::Test {
         game.bag.totaltiles = 100;
         game.bag.tilesleft = 50;
         ResetExchangeCounts();
-        FreezeTiles(8, 8, "A");
+        LayFrozenTiles(8, 8, "A");
         moveSearch = {};
     }
 

@@ -34,7 +34,7 @@ TEST_F(PlainSearchTest, FirstMovesCoverTheStartSquareAcrossBeforeDownShortLeftPa
 
 TEST_F(PlainSearchTest, SingleTileBelowAWordIsFoundOnlyDown) {
     SetUpPlainBoard({"A", "AT", "T"});
-    FreezeTiles(8, 8, "AA");
+    LayFrozenTiles(8, 8, "AA");
     EXPECT_THAT(Found("T"), ElementsAre("down AT 8,8: T@8,9 = 2", "down AT 9,8: T@9,9 = 2"));
 }
 
@@ -62,7 +62,7 @@ TEST_F(PlainSearchTest, RealTileRatherThanBlankLandsOnTheSquareOfHigherKind) {
 TEST_F(PlainSearchTest, BonusWordInTheListIsFoundTwice) {
     SetUpPlainBoard({"AT"});
     FillDict(bonusDict, {"AT"});
-    FreezeTiles(8, 8, "A");
+    LayFrozenTiles(8, 8, "A");
     game.settings.bonusWordValue = 25;
     EXPECT_THAT(Found("T"), ElementsAre("across AT 8,8: T@8,9 = 2", "down AT 8,8: T@8,9 = 2"));
     game.settings.bonusWordsEnabled = true;

@@ -85,7 +85,7 @@ INSTANTIATE_TEST_SUITE_P(Seeds, SlotSearchGames, testing::Range(1U, 7U));
 
 TEST(SlotSearch, WordsAsLongAsTheBoardAreFound) {
     SetUpPlainBoard({"ABCDEFGHIJKLMNO"});
-    FreezeTiles(8, 8, "HIJKLMNO");
+    LayFrozenTiles(8, 8, "HIJKLMNO");
     EXPECT_EQ(ExpectSameList(RequestFor("ABCDEFG")).count, 1);
 }
 

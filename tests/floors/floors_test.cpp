@@ -45,6 +45,7 @@ const Floor kFloors[] = {
 constexpr int kTopOfCore = 8;  // above it is the window, of which the core and cli/ know nothing
 const std::set<std::string> kPlatformOfCore{"src/platform/image.h", "src/platform/message_box.h",
                                             "src/platform/ticks.h"};
+const std::set<std::string> kPlatformOfTables{"src/platform/dialog.h", "src/platform/menu.h"};
 
 const Floor* FloorOf(const std::string& file) {
     const auto floor =
@@ -65,7 +66,8 @@ std::string Objection(const std::string& file, const std::string& included) {
     if (to->place != "src/platform/") {
         return isCli || from.place == "src/main.cpp" ? "" : "chosen by linking";
     }
-    return from.number > kTopOfCore || kPlatformOfCore.contains(included) ? "" : "of the window";
+    const bool isTable = from.place == "src/resources/" && kPlatformOfTables.contains(included);
+    return from.number > kTopOfCore || isTable || kPlatformOfCore.contains(included) ? "" : "of the window";
 }
 
 // A project in a folder, and all that is wrong with it.

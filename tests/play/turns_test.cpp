@@ -9,6 +9,7 @@
 #include "base/messages.h"
 #include "store/preferences.h"
 #include "support/world.h"
+#include "words/word_list_file.h"
 
 namespace quillet {
 namespace {
@@ -170,6 +171,58 @@ TEST_F(Turns, ComputerPlacesExchangesOrPasses) {
         for (const std::string& line : shown) EXPECT_EQ(recorded.Count("ShowStatusLine " + line), 1) << line;
         game.settings = FreshGameState().settings;
     }
+}
+
+TEST_F(Turns, EachMoveShowsWhatItChanged) {
+    SetWords({"CAT"});
+    const auto shown = [] {
+        Strings calls = recorded.calls;
+        std::erase_if(calls, [](const std::string& call) { return call.starts_with("ShowStatusLine"); });
+        recorded.calls.clear();
+        return calls;
+    };
+    StartGame({"Ada", "Bo 8"});
+    GiveRack(1, "DDEEEEE");
+    GiveRack(2, "CATVVWW");
+    PutTiles(3, 3, "E/E");
+    game.thrownBack = "E";
+    *std::ranges::find(game.players[1].rack.positions, 'E') = 0;
+    RestoreTiles();
+    EXPECT_THAT(shown(), ElementsAre("DrawSquare 3 3", "DrawSquare 4 3", "RedrawRack", "RedrawLettersLeft",
+                                     "UpdateScorePreview"));
+    PutTiles(3, 3, "E");
+    ThrowAllBack();
+    EXPECT_THAT(shown(), ElementsAre("DrawSquare 3 3", "RefreshForTurn", "RedrawAfterMove 1"));
+    preferences.blinkComputerMoves = preferences.canWeTalk = preferences.playEndGame = false;
+    Finish();
+    EXPECT_THAT(shown(), ElementsAre("ShowWaitCursor", "RedrawRack", "DrawBoardTile 8 6 C",
+                                     "DrawBoardTile 8 7 A", "DrawBoardTile 8 8 T", "RefreshForTurn",
+                                     "RedrawAfterMove 2", "ShowArrowCursor", "RedrawWindow"));
+    game.players[1].turns = 1;
+    game.passCount = 1;
+    Finish();
+    EXPECT_THAT(shown(), ElementsAre("RedrawAfterMove 1", "RedrawPanels"));
+}
+
+TEST_F(Turns, WaitCursorStaysWhileAComputerUsesItsOwnWordList) {
+    MakeFolder("Word Lists");
+    MakeOpponent("Bo", "Own");
+    SetWords({"CAT"});
+    ASSERT_TRUE(SaveWordList("Own") && SaveWordList("Words"));
+    wordList.current = "Words";
+    StartGame({"Bo 8", "Ada"});
+    GiveRack(1, "CATVVWW");
+    static bool showsWords;
+    showsWords = false;
+    recorded.whenCalled["ShowStatusLine"] = recorded.whenCalled["DrawBoardTile"] = [] {
+        const auto cursor = std::find_if(recorded.calls.rbegin(), recorded.calls.rend(),
+                                         [](const std::string& call) { return call.ends_with("Cursor"); });
+        EXPECT_EQ(*cursor, "ShowWaitCursor") << recorded.calls.back();
+        showsWords = showsWords || recorded.calls.back().ends_with(" CAT");
+    };
+    Finish();
+    EXPECT_TRUE(showsWords);
+    EXPECT_EQ(wordList.current, "Words");
 }
 
 TEST_F(Turns, EscapeStopsComputersThatPlayOnAlone) {

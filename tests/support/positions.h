@@ -35,7 +35,7 @@ inline void SetUpPlainBoard(const std::set<std::string>& words) {
 }
 
 // Lays tiles of earlier moves across from (row, col).
-inline void FreezeTiles(int row, int col, std::string_view tiles) {
+inline void LayFrozenTiles(int row, int col, std::string_view tiles) {
     for (char tile : tiles) {
         game.board[row][col].state = SquareState::Frozen;
         game.board[row][col++].letter = tile;

@@ -1,9 +1,11 @@
-// The presentation that writes down what the rules asked of it, and answers as a test has told it to.
+// The presentation that writes down what the rules asked of it, and answers as a test has told it to. It has
+// a file for each part of the program that answers in earnest: a test of that part leaves the file out.
 #pragma once
 
 #include <deque>
 #include <map>
 #include <optional>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -21,5 +23,16 @@ struct RecordedPresentation {
 };
 
 inline RecordedPresentation recorded;
+
+// Writes down a call, and does what a test has asked for then.
+template <typename... Values>
+void Record(const char* function, const Values&... values) {
+    std::ostringstream call;
+    call << function;
+    ((call << ' ' << values), ...);
+    recorded.calls.push_back(call.str());
+    const auto action = recorded.whenCalled.find(function);
+    if (action != recorded.whenCalled.end()) action->second();
+}
 
 }  // namespace quillet
