@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QAbstractListModel>
+#include <QAbstractSpinBox>
 #include <QImage>
 #include <QListView>
 #include <QPlainTextEdit>
@@ -77,6 +78,20 @@ class PictureArea : public QWidget {
   private:
     QImage image;
     QImage doubled;  // null: there is none
+};
+
+// The arrows of a number that stands elsewhere.
+class ArrowPair : public QAbstractSpinBox {
+  public:
+    explicit ArrowPair(QWidget* parent);
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+    void stepBy(int steps) override;
+
+    std::function<void(bool up)> onStep;
+
+  protected:
+    StepEnabled stepEnabled() const override { return StepUpEnabled | StepDownEnabled; }
 };
 
 // The widget of a control, of the size that the template says.

@@ -78,6 +78,10 @@ void Connect(Dialog& dialog, QWidget& widget, int id) {
         QObject::connect(dropDown, &QComboBox::currentIndexChanged, window, changed);
     } else if (auto* list = dynamic_cast<LineList*>(&widget)) {
         ConnectList(dialog, *list, id);
+    } else if (auto* arrows = dynamic_cast<ArrowPair*>(&widget)) {
+        arrows->onStep = [&dialog, id](bool up) {
+            Tell(dialog, up ? EventKind::SteppedUp : EventKind::SteppedDown, id);
+        };
     }
 }
 
@@ -149,7 +153,7 @@ void AddControls(Dialog& dialog, std::span<const ControlTemplate> controls) {
         }
         Place(rows, control, widget);
         if (control.id == 0) continue;
-        dialog.controls[control.id] = {.kind = control.kind, .widget = widget};
+        dialog.controls[control.id] = {.widget = widget, .text = std::string(control.text)};
         Connect(dialog, *widget, control.id);
     }
     const bool grows = std::ranges::any_of(controls, GrowsDownwards, &ControlTemplate::kind);
@@ -231,8 +235,7 @@ int RunDialog(const DialogTemplate& dialogTemplate, const DialogHandler& handler
     Dialog dialog{.isModal = true, .handler = handler};
     Open(dialog, dialogTemplate);
     TellOpened(dialog);
-    ShowChanges();
-    if (!dialog.result) dialog.window->exec();
+    if (!dialog.result) RunModal(*dialog.window);
     RethrowFailure(dialog);
     return dialog.result.value_or(kCancelId);
 }
