@@ -256,6 +256,12 @@ std::optional<FileStamp> StampOf(std::string_view path) {
                      status.st_ctim.tv_sec * std::int64_t{1'000'000'000} + status.st_ctim.tv_nsec};
 }
 
+bool RemoveFile(std::string_view path) {
+    if (!FileExists(path)) return true;
+    std::error_code error;
+    return fs::remove(*Locate(path), error);
+}
+
 bool CreateFolder(std::string_view path) {
     const std::optional<fs::path> place = Locate(path);
     std::error_code error;

@@ -49,6 +49,9 @@ bool FolderExists(std::string_view path);
 bool FileExists(std::string_view path);
 bool IsWritable(std::string_view path);  // a file that exists and may be changed
 
+// False when there still is such a file afterwards.
+bool RemoveFile(std::string_view path);
+
 // Makes a folder in one that exists. False when that cannot be done, or when it is already there.
 bool CreateFolder(std::string_view path);
 
