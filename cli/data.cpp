@@ -1,17 +1,16 @@
 #include "data.h"
 
-#include <array>
 #include <filesystem>
 #include <fstream>
 #include <optional>
 #include <sstream>
-#include <system_error>
 
 #include "command.h"
 #include "data/saved_game.h"
 #include "data/scenarios.h"
 #include "platform/headless/headless.h"
 #include "play/history.h"
+#include "store/data_folder.h"
 #include "store/files.h"
 #include "words/graph_check.h"
 #include "words/word_list_file.h"
@@ -21,24 +20,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-bool HoldsWordLists(const fs::path& folder) {
-    std::error_code ignored;
-    return fs::is_directory(folder / "Word Lists", ignored);
-}
-
-std::string FindDataFolder() {
-    std::error_code ignored;
-    const fs::path program = fs::read_symlink("/proc/self/exe", ignored).parent_path();
-    const std::array candidates{fs::path("."), fs::path("assets"), program / "../../../assets",
-                                program / "../share/quillet"};
-    for (const fs::path& folder : candidates) {
-        if (HoldsWordLists(folder)) return folder;
-    }
-    return ".";
-}
-
 void UseDataFolder(const std::string& folder) {
-    if (!HoldsWordLists(folder)) throw CommandFailed{folder + " holds no folder \"Word Lists\""};
+    if (!HoldsData(folder)) throw CommandFailed{folder + " holds no folder \"Word Lists\""};
     SetDataFolder(folder);
 }
 

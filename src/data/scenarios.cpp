@@ -156,6 +156,8 @@ bool ScenarioExists(std::string_view name) {
     return exists;
 }
 
+void ReloadSquarePictures() { LoadSquarePictures(ScenarioFolder(CurrentScenario())); }
+
 void LoadScenario() {
     const ItemStore& store = scenarioStore;
     if (!OpenScenario(Purpose::Reading)) Fatal("Could not open scenario: ", "\"", store.member, "\"");

@@ -42,6 +42,9 @@ bool ScenarioExists(std::string_view name);
 // scenario cannot be opened or its letters make no playable set.
 void LoadScenario();
 
+// Loads the current scenario's pictures of the squares again.
+void ReloadSquarePictures();
+
 // A board as scenarios and saved games describe it.
 struct BoardDescription {
     int rows = kBoardSize;

@@ -93,14 +93,6 @@ void AddGame(StatisticsTotals& totals) {
 
 // --- Writing ---
 
-// With one decimal, rounded half away from zero; "-" when there is nothing to divide by.
-std::string Quotient(std::int64_t dividend, std::int64_t divisor) {
-    if (divisor == 0) return "-";
-    const std::int64_t tenths = (std::abs(dividend) * 20 / std::abs(divisor) + 1) / 2;
-    const bool negative = tenths != 0 && (dividend < 0) != (divisor < 0);
-    return (negative ? "-" : "") + std::to_string(tenths / 10) + "." + std::to_string(tenths % 10);
-}
-
 // Lines have the same width whatever they hold, so that the summary never grows into the games.
 void WriteSummaryLine(File& file, std::string text) {
     text.resize(kLineWidth, '.');
@@ -135,17 +127,17 @@ void WriteSummary(File& file, const StatisticsTotals& totals) {
     WriteGamesLine(file, totals);
     WriteColumns(file, "wins        = ", number(&PlayerTotals::wins));
     WriteColumns(file, "percentage  = ", [&](int i) {
-        return Quotient(std::int64_t{players[i].wins} * 100, totals.games);
+        return OneDecimal(std::int64_t{players[i].wins} * 100, totals.games);
     });
     WriteColumns(file, "total score = ", number(&PlayerTotals::totalScore));
     WriteColumns(file, "best game   = ", number(&PlayerTotals::bestGame));
     WriteColumns(file, "worst game  = ", number(&PlayerTotals::worstGame));
     WriteColumns(file,
-                 "ave game    = ", [&](int i) { return Quotient(players[i].totalScore, totals.games); });
+                 "ave game    = ", [&](int i) { return OneDecimal(players[i].totalScore, totals.games); });
     WriteColumns(file, "total moves = ", number(&PlayerTotals::totalMoves));
     WriteColumns(file, "best move   = ", number(&PlayerTotals::bestMove));
     WriteColumns(file, "ave move    = ", [&](int i) {
-        return Quotient(players[i].totalScore, players[i].totalMoves);
+        return OneDecimal(players[i].totalScore, players[i].totalMoves);
     });
     for (int i = 0; i < 3; ++i) WriteSummaryLine(file, "");
     WriteSummaryLine(file, std::string(kLineWidth, '*'));
@@ -168,6 +160,15 @@ std::string GameLine() {
 }
 
 }  // namespace
+
+std::string OneDecimal(std::int64_t dividend, std::int64_t divisor) {
+    if (divisor == 0) return "-";
+    const std::int64_t tenths = (std::abs(dividend) * 20 / std::abs(divisor) + 1) / 2;
+    const bool negative = tenths != 0 && (dividend < 0) != (divisor < 0);
+    return (negative ? "-" : "") + std::to_string(tenths / 10) + "." + std::to_string(tenths % 10);
+}
+
+bool StatisticsFileExists(std::string_view matchName) { return FileExists(StatisticsPath(matchName)); }
 
 std::optional<StatisticsTotals> ReadStatisticsTotals(std::string_view matchName) {
     FileRef file = OpenForReading(StatisticsPath(matchName));

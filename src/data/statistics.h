@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <limits>
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "base/one_based.h"
@@ -29,6 +30,8 @@ struct StatisticsTotals {
     OneBased<PlayerTotals, kMaxPlayers> players{};  // as many as the game has
 };
 
+bool StatisticsFileExists(std::string_view matchName);
+
 // The totals of the file of that MatchName, for as many players as the game has. None when it cannot be
 // opened or, with a warning, when it cannot be read.
 std::optional<StatisticsTotals> ReadStatisticsTotals(std::string_view matchName);
@@ -36,5 +39,8 @@ std::optional<StatisticsTotals> ReadStatisticsTotals(std::string_view matchName)
 // Adds the game that has just ended to its players' file. Warns when that cannot be done; the file then
 // stays as it was.
 void RecordGameStatistics();
+
+// A quotient with one decimal, rounded half away from zero; "-" when there is nothing to divide by.
+std::string OneDecimal(std::int64_t dividend, std::int64_t divisor);
 
 }  // namespace quillet

@@ -75,6 +75,14 @@ struct Square {
     friend constexpr bool operator==(const Square&, const Square&) = default;
 };
 
+// Gives the square that kind, without a tile; a blocked one holds its picture.
+constexpr void SetSquareKind(Square& square, SquareKind kind) {
+    square = {.kind = kind};
+    if (IsPlayable(kind)) return;
+    square.state = SquareState::Frozen;
+    square.letter = kSquareKinds[kind].character;
+}
+
 using Board = std::array<std::array<Square, kGridSize>, kGridSize>;
 
 // Has any tile been played?

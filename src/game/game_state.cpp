@@ -52,12 +52,7 @@ void LoadSquares(std::string_view squares) {
     game.board = {};
     const std::size_t count = std::min<std::size_t>(squares.size(), kBoardSize * kBoardSize);
     for (std::size_t i = 0; i < count; ++i) {
-        Square& square = game.board[i / kBoardSize + 1][i % kBoardSize + 1];
-        square.kind = KindFromCharacter(squares[i]);
-        if (!IsPlayable(square.kind)) {
-            square.state = SquareState::Frozen;
-            square.letter = squares[i];
-        }
+        SetSquareKind(game.board[i / kBoardSize + 1][i % kBoardSize + 1], KindFromCharacter(squares[i]));
     }
 }
 

@@ -149,6 +149,7 @@ int ScoreMove(bool blanksKnown, const PlacedTiles& placed) {
          IsLetterSquare(extent.firstRow, extent.firstCol + 1));
     const Span main = horizontal ? ExtendedAlongRow(extent) : ExtendedAlongColumn(extent);
     int score = ScoreFormedWord(main, blanksKnown);
+    if (blanksKnown) formedWords.remembered = formedWords.words[0];
     ForEachPlacedIn(main, [&](int row, int col) {
         const Span square{row, row, col, col};
         const Span cross = horizontal ? ExtendedAlongColumn(square) : ExtendedAlongRow(square);

@@ -31,6 +31,8 @@ struct PlacedTiles {
 struct FormedWords {
     std::array<Text<15>, 8> words;
     int count = 0;
+    // The first word of the latest move, or hint, whose blanks were known: the one that can be looked up.
+    Text<15> remembered;
 
     std::span<const Text<15>> List() const { return {words.data(), static_cast<std::size_t>(count)}; }
 };

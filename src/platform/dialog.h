@@ -31,6 +31,7 @@ enum class ControlKind : std::uint8_t {
     DropDown,       // a list of which one line shows
     List,           // a list of which many lines show
     Picture,        // stretched to the control's size
+    Arrows,         // two small buttons, less and more; its text is for assistive technology alone
     Progress,       // a bar
 };
 
@@ -68,11 +69,13 @@ struct Dialog;  // an open one; owned by the platform
 
 struct DialogEvent {
     enum class Kind : std::uint8_t {
-        Opened,     // before it shows: time to fill the controls
-        Pressed,    // a button, a check or a radio button; kCancelId also for Escape and the close box
-        Changed,    // the text of an edit, the choice of a list or drop-down, by the person
-        Chosen,     // a line of a list, by a double click or Enter
-        FocusLeft,  // an edit
+        Opened,       // before it shows: time to fill the controls
+        Pressed,      // a button, a check or a radio button; kCancelId also for Escape and the close box
+        Changed,      // the text of an edit, the choice of a list or drop-down, by the person
+        Chosen,       // a line of a list, by a double click or Enter
+        SteppedDown,  // arrows: less
+        SteppedUp,    // more
+        FocusLeft,    // an edit
     };
     Kind kind = Kind::Opened;
     int control = 0;
@@ -88,8 +91,8 @@ void CloseDialog(Dialog& dialog, int result);
 Dialog& OpenModeless(const DialogTemplate& dialogTemplate, DialogHandler handler);
 void CloseModeless(Dialog& dialog);
 
-// The controls of an open dialog. Setting tells the handler nothing. A text set here is shown as it stands, "&"
-// too. In boxes of many lines CR, LF or CR LF ends a line; what is read from them has CR LF.
+// The controls of an open dialog. Setting tells the handler nothing. A text set here is shown as it stands,
+// "&" too. In boxes of many lines CR, LF or CR LF ends a line; what is read from them has CR LF.
 std::string ControlText(Dialog& dialog, int control);
 void SetControlText(Dialog& dialog, int control, std::string_view text);
 void SetProgress(Dialog& dialog, int control, int percent);

@@ -307,7 +307,7 @@ void OpenGameReplay() {
     game.thrownBack.Clear();
     game.history.redoCount = 0;
     game.passCount = 0;
-    formedWords.count = 0;
+    formedWords = {};
     game.timeLimit = preferences.timeLimit;
     game.timePenalty = preferences.timePenalty;
     ClearStatusLines(1);

@@ -81,6 +81,23 @@ void ShowHintedMove(const ChosenMove& move) {
     SetStatusLine(2, "Score = " + std::to_string(move.score));
 }
 
+bool ReplaceFirst(Text<kRackSize>& letters, LetterCode from, LetterCode to) {
+    for (std::size_t i = 0; i < letters.size(); ++i) {
+        if (letters[i] != from) continue;
+        letters[i] = to;
+        return true;
+    }
+    return false;
+}
+
+// The current player's latest draw of one letter becomes that of another.
+void RewriteDraw(LetterCode from, LetterCode to) {
+    for (int n = game.history.movesCount + 1 - game.numPlayers; n >= 1; n -= game.numPlayers) {
+        if (ReplaceFirst(game.history.records[n].newLetters, from, to)) return;
+    }
+    if (!ReplaceFirst(game.startRacks[game.currentPlayer], from, to)) Fatal("Bug: rackch not found");
+}
+
 }  // namespace
 
 void MixRack() {
@@ -132,6 +149,15 @@ void ShowHint(int level) {
     game.bonusWordsThisMove = move.bonusCount;
     ShowHintedMove(move);
     ShowArrowCursor();
+}
+
+void SwapWithBag(int position, LetterCode bagLetter) {
+    LetterCode& onRack = game.Current().rack.positions[position];
+    RewriteDraw(onRack, bagLetter);
+    game.history.redoCount = 0;
+    RemoveFromBag(bagLetter);
+    AddToBag(onRack);
+    onRack = bagLetter;
 }
 
 }  // namespace quillet

@@ -4,6 +4,8 @@
 // Changes the current player's rack; a hint moves tiles as the player could.
 #pragma once
 
+#include "game/letters.h"
+
 namespace quillet {
 
 // Shuffles the rack. Beeps when the game is over or the rack is empty.
@@ -16,5 +18,9 @@ void Permute();
 // Lays out on the board, or puts aside for exchange, what the computer would do at that level (8 the highest
 // scoring move, 9 the best strategic one). For human players, while the option allows hints.
 void ShowHint(int level);
+
+// Swaps the tile in that position (1..8) for one of another letter that the bag holds, as if it had been
+// drawn: the records say so, and what was undone cannot be redone.
+void SwapWithBag(int position, LetterCode bagLetter);
 
 }  // namespace quillet

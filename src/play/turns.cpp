@@ -245,7 +245,7 @@ bool RecordComputerMove(const ChosenMove& move) {
     RedrawRack();
     const PlacedTiles placed = CollectPlacedTiles();
     if (placed.count == 0) {
-        formedWords.count = 0;
+        formedWords = {};
         record.letters = InBraces(move.usedLetters);
         ShowPassOrThrow(move.usedLetters);
         RefillRack();
@@ -412,7 +412,7 @@ void BeginGame(bool redraw) {
     game.history.movesCount = 0;
     game.history.redoCount = 0;
     game.passCount = 0;
-    formedWords.count = 0;
+    formedWords = {};
     game.timeLimit = preferences.timeLimit;
     game.timePenalty = preferences.timePenalty;
     ResetExchangeCounts();

@@ -14,6 +14,13 @@ struct StringEntry {
 // Folder paths are written with "\" throughout the program; the file layer turns them into its own.
 constexpr std::array kStrings{
     StringEntry{StringId::ProgramTitle, "Quillet"},
+    StringEntry{StringId::BoardEditorHint1,
+                "Select a box to the right and then click in the board to change squares."},
+    StringEntry{StringId::BoardEditorHint2, "Control-click in the board to change the starting square."},
+    StringEntry{StringId::BoardEditorHint3, "Use Copy and Paste in the Edit menu to change square pictures."},
+    StringEntry{StringId::PanelFontFace, "Times New Roman Bold"},
+    StringEntry{StringId::PanelFontSize, "12"},
+    StringEntry{StringId::PanelColour, "yellow"},
     StringEntry{StringId::ScenariosFolder, "Scenarios"},
     StringEntry{StringId::OpponentsFolder, "Opponents"},
     StringEntry{StringId::StatisticsFolder, "Statistics"},

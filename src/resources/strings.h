@@ -7,6 +7,12 @@ namespace quillet {
 
 enum class StringId {
     ProgramTitle = 1,
+    BoardEditorHint1 = 128,
+    BoardEditorHint2 = 129,
+    BoardEditorHint3 = 130,
+    PanelFontFace = 200,
+    PanelFontSize = 201,  // points
+    PanelColour = 203,
     ScenariosFolder = 251,
     OpponentsFolder = 252,
     StatisticsFolder = 253,

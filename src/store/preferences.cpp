@@ -25,6 +25,8 @@ struct PreferenceItem {
 };
 
 constexpr ItemId kPlayerCountItem = 200;
+constexpr ItemId kSmallBoardTopItem = 800;  // the item after it is the left
+constexpr ItemId kLargeBoardTopItem = 802;  // likewise
 constexpr std::size_t kMaxPlayerNames = 4;  // in the items that follow the count
 constexpr char kVersion = '0';
 constexpr std::int32_t kMostInNumber = 99;  // what the dialogs allow at most for any number
@@ -36,10 +38,10 @@ constexpr std::array kItems{
     PreferenceItem{202, "Player 2", ""},
     PreferenceItem{203, "Player 3", ""},
     PreferenceItem{204, "Player 4", ""},
-    PreferenceItem{800, "Small board top", "-1000"},
-    PreferenceItem{801, "Small board left", "-1000"},
-    PreferenceItem{802, "Large board top", "-1000"},
-    PreferenceItem{803, "Large board left", "-1000"},
+    PreferenceItem{kSmallBoardTopItem, "Small board top", "-1000"},
+    PreferenceItem{kSmallBoardTopItem + 1, "Small board left", "-1000"},
+    PreferenceItem{kLargeBoardTopItem, "Large board top", "-1000"},
+    PreferenceItem{kLargeBoardTopItem + 1, "Large board left", "-1000"},
     PreferenceItem{1000, "Big board?", &Preferences::bigBoard},
     PreferenceItem{1002, "Show computer letters?", &Preferences::showComputerLetters},
     PreferenceItem{1003, "Show letter values?", &Preferences::showLetterValues},
@@ -164,6 +166,19 @@ void RememberTimer(bool enabled, std::int32_t timeLimit, std::int32_t timePenalt
     WritePreference(&Preferences::timerEnabled);
     WritePreference(&Preferences::timeLimit);
     WritePreference(&Preferences::timePenalty);
+}
+
+WindowPlace ReadWindowPlace(bool bigBoard) {
+    const OpenedPrefs opened;
+    const ItemId top = bigBoard ? kLargeBoardTopItem : kSmallBoardTopItem;
+    return {ReadItemLong(prefsStore, top), ReadItemLong(prefsStore, static_cast<ItemId>(top + 1))};
+}
+
+void WriteWindowPlace(bool bigBoard, const WindowPlace& place) {
+    const OpenedPrefs opened;
+    const ItemId top = bigBoard ? kLargeBoardTopItem : kSmallBoardTopItem;
+    WriteItemNumber(prefsStore, top, place.top);
+    WriteItemNumber(prefsStore, static_cast<ItemId>(top + 1), place.left);
 }
 
 std::vector<Text<12>> ReadPlayerNames() {

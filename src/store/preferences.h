@@ -61,6 +61,14 @@ void RememberWordList(std::string_view name);
 void RememberScenario(std::string_view name);
 void RememberTimer(bool enabled, std::int32_t timeLimit, std::int32_t timePenalty);
 
+// Where the window stood on the screen, in the desktop's units, for each board size.
+struct WindowPlace {
+    std::int32_t top = 0;
+    std::int32_t left = 0;
+};
+WindowPlace ReadWindowPlace(bool bigBoard);
+void WriteWindowPlace(bool bigBoard, const WindowPlace& place);
+
 // The players last chosen, 1 to 4 of them. A single "?" means that none have been chosen yet. Writing fewer
 // than before leaves the items of the others.
 std::vector<Text<12>> ReadPlayerNames();

@@ -19,7 +19,7 @@ struct Stand {
     double height, width, neck;
     int tiles;  // that peep out
 };
-constexpr std::array<Stand, 3> kStands = {{{41, 68, 17, 2}, {34, 71, 18, 1}, {25, 75, 20, 0}}};
+constexpr std::array<Stand, 3> kStands = {{{40, 68, 17, 2}, {33, 71, 18, 1}, {25, 75, 20, 0}}};
 
 QPainterPath Body(const Stand& stand) {
     const double top = kFloor - stand.height + 10;
@@ -74,8 +74,8 @@ struct PeepingTile {
 
 std::array<PeepingTile, 2> TilesOf(const Stand& stand) {
     const double top = kFloor - stand.height;
-    if (stand.tiles == 1) return {{{{kMiddle + 2, top + 0.6}, 12, "E"}, {}}};
-    return {{{{kMiddle - 6.4, top + 0.4}, -17, "Q"}, {{kMiddle + 6.2, top + 0.8}, 13, "A"}}};
+    if (stand.tiles == 1) return {{{{kMiddle + 2, top - 2}, 12, "E"}, {}}};
+    return {{{{kMiddle - 6.4, top - 1.2}, -17, "Q"}, {{kMiddle + 6.2, top - 0.8}, 13, "A"}}};
 }
 
 constexpr double kTileSize = 12.5;

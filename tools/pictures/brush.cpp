@@ -86,16 +86,71 @@ void SmoothWithoutOutlines(QPainter& painter) {
     painter.setPen(Qt::NoPen);
 }
 
+// --- Quills: in units of their length and width, with the nib at 0,0 and the feather on the right ---
+
+constexpr double kVaneBegin = 0.29, kNibEnd = 0.45;
+
+// Turns the painter as long as it lives.
+class QuillFrame {
+  public:
+    QuillFrame(QPainter& quillPainter, QPointF nib, double quillLength, double angle, double width)
+        : painter(quillPainter), length(quillLength), breadth(quillLength * width) {
+        painter.save();
+        painter.translate(nib);
+        painter.rotate(-angle);
+    }
+    ~QuillFrame() { painter.restore(); }
+    QuillFrame(const QuillFrame&) = delete;
+    QuillFrame& operator=(const QuillFrame&) = delete;
+
+    QPainterPath At(const QPainterPath& shape) const { return Scaled(shape, length, breadth); }
+    double Length() const { return length; }
+
+  private:
+    QPainter& painter;
+    double length, breadth;
+};
+
+void FillShaft(QPainter& painter, const QuillFrame& frame, const QuillColours& colours) {
+    static const QPainterPath kShaft =
+        Shape("M 0,0 L .07,-.1 C .4,-.13 .7,-.12 .97,-.24 C .7,.03 .4,.12 .07,.11 Z");
+    const double reach = frame.Length() * kVaneBegin;
+    Fill(painter, frame.At(kShaft), Ramp({reach * 0.9, 0}, {reach * 1.5, 0}, colours.nib, colours.shaft));
+}
+
+// Colours of 16 bits a component to 8, in the order of a Bayer matrix: a long dark ramp would show its
+// steps. Colours that 8 bits can tell stay as they are.
+QImage Dithered(const QImage& fine) {
+    constexpr int kLevel = 257;  // 65535 / 255
+    QImage picture(fine.size(), QImage::Format_RGB32);
+    const auto threshold = [](unsigned x, unsigned y) {
+        unsigned order = 0;
+        for (int bit = 0; bit < 3; ++bit, x >>= 1, y >>= 1) order = order << 2 | ((x ^ y) & 1) << 1 | (y & 1);
+        return static_cast<int>(order * kLevel / 64);
+    };
+    for (int y = 0; y < fine.height(); ++y) {
+        for (int x = 0; x < fine.width(); ++x) {
+            const QRgba64 from = fine.pixelColor(x, y).rgba64();
+            const int add = threshold(static_cast<unsigned>(x), static_cast<unsigned>(y));
+            picture.setPixel(x, y,
+                             qRgb((from.red() + add) / kLevel, (from.green() + add) / kLevel,
+                                  (from.blue() + add) / kLevel));
+        }
+    }
+    return picture;
+}
+
 }  // namespace
 
 QImage Draw(int width, int height, int scale, const Drawing& drawing, QColor ground) {
-    QImage picture(width * scale, height * scale, QImage::Format_ARGB32_Premultiplied);
+    QImage picture(width * scale, height * scale, QImage::Format_RGBA64_Premultiplied);
     picture.fill(ground);
     QPainter painter(&picture);
     SmoothWithoutOutlines(painter);
     painter.scale(scale, scale);
     drawing(painter);
-    return picture;
+    painter.end();
+    return Dithered(picture);
 }
 
 QImage DrawInk(int width, int height, int scale, const Drawing& drawing) {
@@ -200,34 +255,34 @@ QFont PixelFont(Face face, int pixels) {
 
 void Quill(QPainter& painter, QPointF nib, double length, double angle, const QuillColours& colours,
            double width) {
-    // In units of the length and the width; the nib is at 0,0 and the feather lies to the right.
     static const QPainterPath kUpper = Shape(
         "M .29,0 C .34,-.85 .52,-1.12 .68,-1.12 L .70,-.86 L .735,-1.08 C .84,-1.02 .93,-.66 1,-.25 "
         "C .85,-.02 .6,0 .29,0 Z");
     static const QPainterPath kLower = Shape(
-        "M .29,0 C .36,.60 .46,.80 .55,.80 L .575,.56 L .61,.78 C .76,.70 .90,.20 1,-.25 C .85,-.02 .6,0 "
-        ".29,0 Z");
-    static const QPainterPath kShaft =
-        Shape("M 0,0 L .07,-.1 C .4,-.13 .7,-.12 .97,-.24 C .7,.03 .4,.12 .07,.11 Z");
-    painter.save();
-    painter.translate(nib);
-    painter.rotate(-angle);
-    const auto at = [&](const QPainterPath& shape) { return Scaled(shape, length, length * width); };
-    Fill(painter, at(kUpper), colours.vane);
-    Fill(painter, at(kLower), colours.underVane);
-    Fill(painter, at(kShaft), colours.shaft);
-    if (length > 30) {  // barbs would only blur a small one
-        for (int k = 0; k < 5; ++k) {
-            const double x = 0.42 + 0.10 * k;
-            const double reach = 1 - std::abs(x - 0.6) * 1.5;
-            QPainterPath barb;
-            barb.moveTo(x + 0.05, -0.62 * reach);
-            barb.lineTo(x, -0.06);
-            barb.lineTo(x + 0.045, 0.36 * reach);
-            Stroke(painter, at(barb), Sheer(colours.shaft, 0.4), std::max(0.5, length * 0.007));
-        }
+        "M .29,0 C .36,.60 .46,.80 .55,.80 L .575,.56 L .61,.78 C .76,.70 .90,.20 1,-.25 "
+        "C .85,-.02 .6,0 .29,0 Z");
+    const QuillFrame frame(painter, nib, length, angle, width);
+    Fill(painter, frame.At(kUpper), colours.vane);
+    Fill(painter, frame.At(kLower), colours.underVane);
+    FillShaft(painter, frame, colours);
+    if (length <= 30) return;  // barbs would only blur a small one
+    for (int k = 0; k < 5; ++k) {
+        const double x = 0.42 + 0.10 * k;
+        const double reach = 1 - std::abs(x - 0.6) * 1.5;
+        QPainterPath barb;
+        barb.moveTo(x + 0.05, -0.62 * reach);
+        barb.lineTo(x, -0.06);
+        barb.lineTo(x + 0.045, 0.36 * reach);
+        Stroke(painter, frame.At(barb), Sheer(colours.shaft, 0.4 * colours.shaft.alphaF()),
+               std::max(0.5, length * 0.007));
     }
-    painter.restore();
+}
+
+void QuillNib(QPainter& painter, QPointF nib, double length, double angle, const QuillColours& colours,
+              double width) {
+    const QuillFrame frame(painter, nib, length, angle, width);
+    painter.setClipRect(QRectF(-length, -length, length * (1 + kNibEnd), 2 * length), Qt::IntersectClip);
+    FillShaft(painter, frame, colours);
 }
 
 }  // namespace quillet

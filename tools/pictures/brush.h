@@ -57,10 +57,15 @@ QFont PixelFont(Face face, int pixels);
 
 struct QuillColours {
     QColor vane, underVane, shaft;
+    QColor nib = shaft;
 };
 
 // A quill with its nib at a point; the feather goes up at that angle (degrees, 0 is right, 90 is up).
 void Quill(QPainter& painter, QPointF nib, double length, double angle, const QuillColours& colours,
            double width = 0.17);
+
+// The lower part of its shaft, where it lies over what hides the rest.
+void QuillNib(QPainter& painter, QPointF nib, double length, double angle, const QuillColours& colours,
+              double width = 0.17);
 
 }  // namespace quillet

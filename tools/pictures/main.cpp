@@ -52,7 +52,6 @@ std::vector<Picture> InterfacePictures() {
         {"sqsmall", [](int scale) { return DrawLetterSheet(kSmallPitch, scale); }},
         {"valbig", [](int scale) { return DrawValueSheet(kBigPitch, scale); }},
         {"valsmall", [](int scale) { return DrawValueSheet(kSmallPitch, scale); }},
-        {"splash", DrawSplash},
     };
     for (int fill = 1; fill <= 4; ++fill) {
         pictures.push_back({QString("bag%1").arg(fill), [=](int scale) { return DrawBag(fill, scale); }});
@@ -80,6 +79,7 @@ void AddMoods(std::vector<Picture>& pictures, const QString& folder, const std::
 std::vector<Picture> AllPictures(const QDir& assets) {
     std::vector<Picture> pictures = InterfacePictures();
     AddSquares(pictures, "Data/Graphics", {});
+    pictures.push_back({"Data/Graphics/splash", DrawSplash});
     const auto foldersOf = [&](const char* name) {
         return QDir(assets.filePath(name)).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
     };

@@ -185,9 +185,9 @@ void PaintFish(QPainter& painter) {
 
 void PaintCompass(QPainter& painter) {
     FillText(painter, "E 13,13 10.6,10.6", Across(3, 23, kBrassLight, kBrassDark));
-    FillText(painter, "E 13,13 8.4,8.4", kVellum);
-    FillText(painter, "M 13,5.4 L 15.6,13 L 10.4,13 Z", kMadder);
-    FillText(painter, "M 13,20.6 L 15.6,13 L 10.4,13 Z", kInk);
+    FillText(painter, "E 13,13 8.2,8.2", Across(4, 22, kInkDark, kInkLight));
+    FillText(painter, "M 13,5.4 L 15.8,13 L 10.2,13 Z", kMadderPale);
+    FillText(painter, "M 13,20.6 L 15.8,13 L 10.2,13 Z", kVellum);
     FillText(painter, "E 13,13 1.3,1.3", kBrass);
 }
 
@@ -319,7 +319,10 @@ void PaintColumn(QPainter& painter) {
 }
 
 void PaintLamp(QPainter& painter) {
-    FillEllipse(painter, {13, 13}, 11, 9, Sheer(kBrassLight, 0.16));
+    QRadialGradient glow(QPointF(13, 11), 13);
+    glow.setColorAt(0, Sheer(kBrassLight, 0.45));
+    glow.setColorAt(1, Sheer(kBrassLight, 0));
+    painter.fillRect(QRectF(0, 0, 26, 26), glow);
     FillText(painter, "R 12,13 2,8", kBrass);
     FillText(painter, "B 7.6,20.4 10.8,2.6 1.3", Across(7, 19, kBrass, kBrassDark));
     FillText(painter, "M 9.4,4 L 16.6,4 L 21,14 L 5,14 Z", Across(5, 21, kFlash, kBrass));

@@ -25,7 +25,6 @@ void PaintInkPotAndQuill(QPainter& painter) {
     Fill(painter, Shape("B 151,97 26,8 3"),
          Ramp(QPointF(151, 97), QPointF(177, 105), dim(Rgb(0x5C7896)), Rgb(0x344860)));
     Fill(painter, Shape("E 164,99.5 9.5,2.2"), Rgb(0x0F1720));
-    Quill(painter, {163, 112}, 104, 63, {Qt::transparent, Qt::transparent, Qt::transparent});
     Fill(painter, Shape("B 146,109 3.4,16 1.7"), dim(Rgb(0x6F88A4)));
 }
 

@@ -1,5 +1,5 @@
-// The pictures that are shipped, one function each; what they are for stands in docs/formats or beside the
-// code that shows them. All take the scale, 1 or 2, and give a picture of scale times the size named here.
+// The pictures that are shipped, one function each; README.md tells how they want to look. All take the
+// scale, 1 or 2, and give a picture of scale times the size named here.
 #pragma once
 
 #include <QImage>

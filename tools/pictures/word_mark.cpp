@@ -14,14 +14,16 @@ struct WordMark {
 };
 
 void PaintWordMark(QPainter& painter, const WordMark& mark) {
+    constexpr double kAngle = 143, kBreadth = 0.16;  // of the quill
     const double s = mark.size;
     const QPainterPath o = Lettering(Face::SerifBoldItalic, "O", s).translated(mark.origin);
     const QRectF bowl = o.boundingRect();
     const QPainterPath rest =
         Lettering(Face::SerifBoldItalic, "uillet", s).translated(bowl.right() + 0.075 * s, mark.origin.y());
     const QPointF nib(bowl.right() + 0.20 * s, mark.origin.y() + 0.20 * s);
+    const double length = 1.62 * s;
     const auto quill = [&](const QuillColours& colours) {
-        Quill(painter, nib, 1.62 * s, 143, colours, 0.16);
+        Quill(painter, nib, length, kAngle, colours, kBreadth);
     };
 
     painter.save();  // the shadow of all of it
@@ -32,16 +34,18 @@ void PaintWordMark(QPainter& painter, const WordMark& mark) {
     Fill(painter, rest, kShadow);
     painter.restore();
 
-    quill({kBrassLight, kBrass, kBrassDark});
+    const QuillColours brass{kBrassLight, kBrass, kBrassDark, kBrassLight};
+    quill(brass);
     const auto ivory = Ramp(mark.origin - QPointF(0, 0.7 * s), mark.origin, kTileLight, Rgb(0xE9DBB4));
     Fill(painter, o, ivory);
     Fill(painter, rest, ivory);
 
-    painter.save();  // the nib comes out over the bowl
-    painter.setClipRect(
-        QRectF(bowl.center() + QPointF(0.10 * bowl.width(), 0.14 * bowl.height()), QSizeF(s, s)));
-    quill({kBrassLight, kBrass, kBrassLight});
+    // The nib comes out over the bowl and throws a narrow shadow on it.
+    painter.save();
+    painter.setClipPath(o);
+    QuillNib(painter, nib + QPointF(-0.4, 1) * drop * 0.5, length, kAngle, {{}, {}, kBrassDark}, kBreadth);
     painter.restore();
+    QuillNib(painter, nib, length, kAngle, brass, kBreadth);
 }
 
 // --- The splash picture ---
@@ -91,10 +95,10 @@ QImage DrawSplash(int scale) {
             lamp.setColorAt(1, Sheer(kBlack, 0.42));
             painter.fillRect(desk, lamp);
             PaintWordMark(painter, {{148, 186}, 118});
-            PaintLooseTile(painter, {452, 318}, -9, 'W');
-            PaintLooseTile(painter, {498, 326}, 5, 'O');
-            PaintLooseTile(painter, {544, 316}, -4, 'R');
-            PaintLooseTile(painter, {586, 330}, 11, 'D');
+            PaintLooseTile(painter, {430, 318}, -9, 'W');
+            PaintLooseTile(painter, {478, 326}, 5, 'O');
+            PaintLooseTile(painter, {526, 316}, -4, 'R');
+            PaintLooseTile(painter, {572, 328}, 11, 'D');
 
             painter.resetTransform();
             painter.setFont(PixelFont(Face::SerifItalic, 18 * scale));

@@ -103,6 +103,11 @@ void ChooseLine(Dialog& dialog, int control, int line) {
     Tell(dialog, EventKind::Changed, control);
 }
 
+void StepArrows(Dialog& dialog, int control, bool up) {
+    if (IsReachable(dialog, control))
+        Tell(dialog, up ? EventKind::SteppedUp : EventKind::SteppedDown, control);
+}
+
 // --- Controls ---
 
 std::string ControlText(Dialog& dialog, int control) { return Control(dialog, control).text; }

@@ -184,6 +184,30 @@ void CheckMenuItem(int command, bool checked) {
     if (HeadlessMenuItem* item = FindMenuItem(command)) item->checked = checked;
 }
 
+// --- window_controls.h ---
+
+void ShowWindowControls(std::span<const WindowControl> controls) {
+    headlessWindow.windowControls.clear();
+    for (const WindowControl& control : controls) headlessWindow.windowControls[control.id] = 0;
+}
+
+void HideWindowControls() { headlessWindow.windowControls.clear(); }
+
+int WindowControlChoice(int id) { return headlessWindow.windowControls.at(id); }
+
+void SetWindowControlChoice(int id, int line) { headlessWindow.windowControls.at(id) = line; }
+
+void PressWindowControl(int id) {
+    if (!headlessWindow.windowControls.contains(id)) return;
+    PostEvent({.kind = Message::Kind::ControlEvent, .command = id});
+}
+
+void ChooseWindowControlLine(int id, int line) {
+    if (!headlessWindow.windowControls.contains(id)) return;
+    SetWindowControlChoice(id, line);
+    PressWindowControl(id);
+}
+
 // --- message_box.h, file_dialog.h, clipboard.h, sound.h ---
 
 bool ShowRetryBox(std::string_view /*title*/, std::string_view text) {

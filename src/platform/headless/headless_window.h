@@ -21,6 +21,7 @@
 #include "platform/headless/headless.h"
 #include "platform/menu.h"
 #include "platform/window.h"
+#include "platform/window_controls.h"
 
 namespace quillet {
 
@@ -85,6 +86,7 @@ struct HeadlessWindow {
     std::deque<std::function<void(Dialog&)>> dialogScripts;
     std::vector<std::string> dialogsShown;  // their titles
     Dialog* modeless = nullptr;
+    std::map<int, int> windowControls;  // those shown, by id, with their choices
     std::vector<std::string> retryBoxes;
     std::deque<bool> retryAnswers;  // when they run out: Cancel
     std::uint32_t slept = 0;        // milliseconds in WaitForMessage
@@ -101,9 +103,14 @@ void PostEvent(const Message& message, std::uint32_t delay = 0);
 HeadlessMenuItem* FindMenuItem(int command);  // none when the menus lack it
 void ChooseMenuItem(int command);             // an enabled one; else nothing happens
 
+// Presses a button in the window, or chooses a line of a list there.
+void PressWindowControl(int id);
+void ChooseWindowControlLine(int id, int line);
+
 // The person's hand on an open dialog. Typing takes the place of what is selected.
 void PressControl(Dialog& dialog, int control);
 void TypeText(Dialog& dialog, int control, std::string_view text);
 void ChooseLine(Dialog& dialog, int control, int line);
+void StepArrows(Dialog& dialog, int control, bool up);
 
 }  // namespace quillet

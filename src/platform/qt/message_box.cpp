@@ -1,0 +1,49 @@
+#include "platform/message_box.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "platform/qt/desktop.h"
+
+namespace quillet {
+namespace {
+
+using Box = InTheMiddle<QMessageBox>;
+
+// Shows the box; the toolkit chooses what Escape and the close box press.
+void Run(Box& box) {
+    box.setTextFormat(Qt::PlainText);
+    ShowChanges();
+    box.exec();
+}
+
+}  // namespace
+
+void ShowMessageBox(BoxKind kind, std::string_view title, std::string_view text) {
+    const bool isFatal = kind == BoxKind::Fatal;
+    Box box(isFatal ? QMessageBox::Critical : QMessageBox::Warning, ToQString(title), ToQString(text),
+            isFatal ? QMessageBox::NoButton : QMessageBox::Ok, DialogParent());
+    if (isFatal) box.addButton(QStringLiteral("Quit"), QMessageBox::AcceptRole);
+    Beep();
+    Run(box);
+}
+
+bool ShowQuestionBox(std::string_view title, std::string_view text, bool yesIsDefault) {
+    Box box(QMessageBox::Question, ToQString(title), ToQString(text), QMessageBox::Yes | QMessageBox::No,
+            DialogParent());
+    box.setDefaultButton(yesIsDefault ? QMessageBox::Yes : QMessageBox::No);
+    Run(box);
+    return box.result() == QMessageBox::Yes;
+}
+
+bool ShowRetryBox(std::string_view title, std::string_view text) {
+    Box box(QMessageBox::Warning, ToQString(title), ToQString(text), QMessageBox::Retry | QMessageBox::Cancel,
+            DialogParent());
+    Run(box);
+    return box.result() == QMessageBox::Retry;
+}
+
+void Beep() { QApplication::beep(); }
+
+}  // namespace quillet

@@ -1,0 +1,317 @@
+#include "shell/commands.h"
+
+#include <algorithm>
+#include <functional>
+
+#include "base/messages.h"
+#include "base/presentation.h"
+#include "computer/move_choice.h"
+#include "data/saved_game.h"
+#include "data/scenarios.h"
+#include "dialogs/about.h"
+#include "dialogs/choose_file.h"
+#include "dialogs/define_word.h"
+#include "dialogs/edit_bonus_words.h"
+#include "dialogs/edit_word_list.h"
+#include "dialogs/new_word_list.h"
+#include "dialogs/scenario_texts.h"
+#include "dialogs/timer_settings.h"
+#include "editors/board_editor.h"
+#include "editors/letters_editor.h"
+#include "game/validation.h"
+#include "platform/message_box.h"
+#include "platform/window.h"
+#include "play/history.h"
+#include "play/rack_tools.h"
+#include "play/turns.h"
+#include "resources/menus.h"
+#include "shell/help.h"
+#include "shell/menus.h"
+#include "store/preferences.h"
+#include "view/main_window.h"
+#include "view/render.h"
+#include "view/typing.h"
+#include "words/word_list_editing.h"
+#include "words/word_list_file.h"
+
+namespace quillet {
+namespace {
+
+std::string gameFileName;  // of the current game, without its folder; empty: it has none yet
+
+// The menus are disabled as long as one of these lives.
+struct MenusDisabled {
+    MenusDisabled() { DisableMenus(); }
+    ~MenusDisabled() { EnableMenus(); }
+    MenusDisabled(const MenusDisabled&) = delete;
+    MenusDisabled& operator=(const MenusDisabled&) = delete;
+};
+
+bool GameHasMoves() { return game.IsRunning() && game.history.movesCount > 0; }
+
+// May the running game be given up?
+bool ConfirmCancel() { return !GameHasMoves() || AskYesNo(false, "Cancel the current game?"); }
+
+void UseScenario(std::string_view name) {
+    SetCurrentScenario(name);
+    LoadScenario();
+}
+
+// --- File ---
+
+void NewGameCommand() {
+    if (ConfirmCancel()) NewGame(true);
+}
+
+void OpenGameCommand() {
+    if (const auto path = ChooseFileToOpen(SavedGameFiles(), gameFileName)) OpenGameFile(*path);
+}
+
+void SaveGameCommand() {
+    const std::string proposed = gameFileName.empty() ? "untitled.qlg" : gameFileName;
+    if (const auto path = ChooseFileToSave(SavedGameFiles(), proposed)) {
+        if (SaveGame(*path)) gameFileName = FileTitle(*path);
+    }
+}
+
+void ChoosePlayersCommand() {
+    if (ConfirmCancel() && ChoosePlayers()) NewGame(true);
+}
+
+// --- Edit ---
+
+// A computer that is now to move must not move again at once.
+void LetComputerWait() {
+    if (game.Current().isComputer && !preferences.tellComputerToMove) {
+        FlipPreference(&Preferences::tellComputerToMove);
+        ShowMoveButtonPlainly();
+    }
+}
+
+void UndoCommand() {
+    const int moves = game.history.movesCount;
+    UndoMove();
+    if (game.history.movesCount != moves) LetComputerWait();
+}
+
+void RedoCommand() {
+    const int undone = game.history.redoCount;
+    RedoMove();
+    if (game.history.redoCount != undone && game.history.redoCount != 0 && !game.gameOver) LetComputerWait();
+}
+
+// --- Scenario ---
+
+void NewScenarioCommand() {
+    if (!ConfirmCancel() || !NewScenarioDialog()) return;
+    BuildScenarioMenu();
+    LoadScenario();
+    NewGame(true);
+    FollowScenarioWordList();
+    OpenBoardEditor();
+}
+
+void EditScenarioCommand() {
+    switch (EditScenarioDialog()) {
+        case ScenarioPart::Board:
+            if (ConfirmCancel()) OpenBoardEditor();
+            return;
+        case ScenarioPart::Letters:
+            if (ConfirmCancel() && EditLetterInfo()) NewGame(true);
+            return;
+        case ScenarioPart::AboutText:
+            return EditAboutText();
+        case ScenarioPart::BonusWords:
+            EditBonusWords();
+            return RedrawPanels();
+        case ScenarioPart::None:
+            return;
+    }
+}
+
+void ChooseScenario(const std::string& name) {
+    if (EqualIgnoringCase(name, CurrentScenario()) || !ConfirmCancel()) return;
+    UseScenario(name);
+    NewGame(true);
+    RedrawWindow();
+    if (preferences.showAboutScenario && TakeAboutMark(name)) ShowAboutScenario();
+}
+
+// --- Options ---
+
+void FlipAndArrange() {
+    FlipPreference(&Preferences::rackAbove);
+    ArrangeWindow();
+    PaintNow();
+}
+
+template <bool Preferences::*preference>
+void Flip() {
+    FlipPreference(preference);
+}
+
+void FlipShowLetters() {
+    FlipPreference(&Preferences::showComputerLetters);
+    if (game.gameStarted && game.Current().isComputer) RedrawRack();
+}
+
+void FlipTellComputer() {
+    FlipPreference(&Preferences::tellComputerToMove);
+    ShowMoveButtonPlainly();
+}
+
+void FlipHints() {
+    FlipPreference(&Preferences::allowHints);
+    RedrawHintLock();
+}
+
+// --- Letters ---
+
+void Hint(int level) {
+    const MenusDisabled disabled;
+    ShowHint(level);
+}
+
+// --- Words ---
+
+void NewWordListCommand() {
+    if (!NewWordListDialog()) return;
+    wordList.fromScenario = false;
+    BuildWordsMenu();
+}
+
+void SaveListAsCommand() {
+    SaveWordListAsDialog();
+    BuildWordsMenu();
+}
+
+void TextOperation(void (*operation)(std::string_view path), const std::optional<std::string>& path) {
+    if (!path) return;
+    SetTextOperation(true);
+    {
+        const MenusDisabled disabled;
+        operation(*path);
+    }
+    SetTextOperation(false);
+    RefreshMenus();
+}
+
+void AddFromTextCommand() { TextOperation(AddFromTextFile, ChooseFileToOpen(TextFiles(), "")); }
+
+void DumpToTextCommand() {
+    if (HasWordsToDump()) TextOperation(DumpToTextFile, ChooseFileToSave(TextFiles(), ""));
+}
+
+void DefineRemembered() {
+    if (!formedWords.remembered.empty()) DefineWord(formedWords.remembered);
+}
+
+void ChooseWordList(const std::string& name) {
+    if (EqualIgnoringCase(name, wordList.current)) return;
+    OfferToSaveWordList();
+    if (SelectWordList(true, name)) wordList.fromScenario = false;
+}
+
+struct Command {
+    int number;
+    void (*run)();
+};
+constexpr Command kCommands[] = {
+    {1, NewGameCommand},
+    {2, OpenGameCommand},
+    {3, SaveGameCommand},
+    {5, ChoosePlayersCommand},
+    {9, RequestClose},
+    {101, UndoCommand},
+    {102, RedoCommand},
+    {104, CopySquarePicture},
+    {105, PasteSquarePicture},
+    {201, NewScenarioCommand},
+    {202, ShowAboutScenario},
+    {203, EditScenarioCommand},
+    {303, FlipAndArrange},
+    {304, Flip<&Preferences::niceLetterMix>},
+    {305, FlipShowLetters},
+    {306, Flip<&Preferences::blinkComputerMoves>},
+    {307, FlipTellComputer},
+    {308, FlipHints},
+    {309, SwitchSaveStatistics},
+    {311, ShowTimerSettings},
+    {401, ThrowAllBack},
+    {403, RestoreTiles},
+    {404, Permute},
+    {406, [] { Hint(kHighestScoringLevel); }},
+    {407, [] { Hint(kStrategicLevel); }},
+    {501, NewWordListCommand},
+    {503, EditWordList},
+    {504, RevertWordList},
+    {505, SaveCurrentWordList},
+    {506, SaveListAsCommand},
+    {508, AddFromTextCommand},
+    {509, DumpToTextCommand},
+    {511, [] { DefineWord(""); }},
+    {512, DefineRemembered},
+    {601, ShowAboutBox},
+    {1001, Flip<&Preferences::playSounds>},
+    {1002, Flip<&Preferences::playIntroMusic>},
+    {1003, Flip<&Preferences::canWeTalk>},
+    {1004, Flip<&Preferences::playTileClicks>},
+    {1005, Flip<&Preferences::playMixPermute>},
+    {1006, Flip<&Preferences::playBingoBonus>},
+    {1007, Flip<&Preferences::playEndGame>},
+    {1008, Flip<&Preferences::playByeBye>},
+};
+
+}  // namespace
+
+void DispatchCommand(int number) {
+    const auto command = std::ranges::find(kCommands, number, &Command::number);
+    if (command != std::end(kCommands)) return command->run();
+    if (const std::string name = ScenarioOf(number); !name.empty()) return ChooseScenario(name);
+    if (const std::string name = WordListOf(number); !name.empty()) return ChooseWordList(name);
+    if (number >= kFirstTopicCommand && number / 100 == kHelpMenu) {
+        return ShowHelp(number - kFirstTopicCommand + 1);
+    }
+    Beep();
+}
+
+void FinishTurnFromWindow() {
+    const MenusDisabled disabled;
+    FinishTurn();
+}
+
+void HandleTypedCharacter(char character) {
+    if (!game.gameStarted) return;
+    const bool humanIsToMove = !game.gameOver && !game.Current().isComputer;
+    switch (character) {
+        case '0':
+            return FinishTurnFromWindow();
+        case '8':
+        case '9':
+            if (humanIsToMove) Hint(character - '0');
+            return;
+        case ' ':
+            return MixRack();
+        case '.':
+            return Permute();
+        default:
+            return TypeCharacter(character, PointerPosition());
+    }
+}
+
+bool OpenGameFile(const std::string& path) {
+    if (!LoadGame(path)) return false;
+    OpenGameReplay();
+    gameFileName = FileTitle(path);
+    BuildScenarioMenu();
+    FollowScenarioWordList();
+    return true;
+}
+
+void OfferToSaveGame() {
+    if (GameHasMoves() && AskYesNo(true, "Save current game?")) SaveGameCommand();
+}
+
+void FollowScenarioWordList() { ApplyScenarioWordList(scenario.requestedWordList); }
+
+}  // namespace quillet
