@@ -25,7 +25,8 @@ struct WordListState {
 
 inline WordListState wordList;
 
-// The names of the lists there are, sorted; at most 86, names that are too long left out.
+// The names of the lists there are, sorted; at most 86, names that are too long left out. Fatal when their
+// folder is missing.
 std::vector<std::string> ListWordLists();
 
 // The path of that list's file, with "\" between folder and name.
