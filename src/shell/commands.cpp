@@ -112,16 +112,16 @@ void NewScenarioCommand() {
 }
 
 void EditScenarioCommand() {
-    switch (EditScenarioDialog()) {
-        case ScenarioPart::Board:
+    switch (ChooseScenarioPart()) {
+        case ScenarioPart::BoardPart:
             if (ConfirmCancel()) OpenBoardEditor();
             return;
-        case ScenarioPart::Letters:
+        case ScenarioPart::LettersPart:
             if (ConfirmCancel() && EditLetterInfo()) NewGame(true);
             return;
-        case ScenarioPart::AboutText:
+        case ScenarioPart::AboutPart:
             return EditAboutText();
-        case ScenarioPart::BonusWords:
+        case ScenarioPart::BonusPart:
             EditBonusWords();
             return RedrawPanels();
         case ScenarioPart::None:

@@ -183,6 +183,7 @@ bool LoadWordList(std::string_view name) {
         ReplaceMainDict(std::move(fresh), state);
     }
     wordList.current = loaded;
+    wordList.loaded = true;
     return true;
 }
 

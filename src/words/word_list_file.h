@@ -19,6 +19,7 @@ using WordListName = Text<31>;
 
 struct WordListState {
     WordListName current;       // the list that mainDict holds
+    bool loaded = false;        // some list has been, since the program started
     bool fromScenario = false;  // it was chosen because the scenario asked for it, not by the user
 };
 

@@ -13,6 +13,7 @@
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QStyle>
+#include <QStyleOptionSpinBox>
 #include <QTextBlock>
 #include <QValidator>
 #include <algorithm>
@@ -53,6 +54,13 @@ int ScrollBarWidth(const QWidget& widget) {
     return widget.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &widget);
 }
 
+// The toolkit's idea of a size counts only where the template says nothing.
+QSize SizeAsTold(const QWidget& widget, QSize toolkits) {
+    const QSize told = widget.minimumSize();
+    return {told.width() > 0 ? told.width() : toolkits.width(),
+            told.height() > 0 ? told.height() : toolkits.height()};
+}
+
 void UseFixedPitch(QWidget& widget) {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     font.setPointSizeF(widget.font().pointSizeF());
@@ -67,7 +75,7 @@ QWidget* MakeLabel(const ControlTemplate& control, QWidget* parent) {
         label->setWordWrap(true);
         label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
         label->setMinimumWidth(WidthOf(control.width, *label));
-        label->setMinimumHeight(control.height * label->fontMetrics().lineSpacing());
+        label->setMinimumHeight(std::max(control.height, 1) * label->fontMetrics().lineSpacing());
     }
     return label;
 }
@@ -135,8 +143,15 @@ QWidget* MakePicture(const ControlTemplate& control, QWidget* parent) {
     return area;
 }
 
-QWidget* MakeProgress(const ControlTemplate&, QWidget* parent) {
+QWidget* MakeArrows(const ControlTemplate& control, QWidget* parent) {
+    auto* arrows = new ArrowPair(parent);
+    arrows->setAccessibleName(ToQString(control.text));
+    return arrows;
+}
+
+QWidget* MakeProgress(const ControlTemplate& control, QWidget* parent) {
     auto* bar = new QProgressBar(parent);
+    if (control.width > 0) bar->setMinimumWidth(WidthOf(control.width, *bar));
     bar->setRange(0, 100);
     bar->setValue(0);
     return bar;
@@ -148,7 +163,7 @@ QWidget* MakeButton(const ControlTemplate& control, QWidget* parent) {
 }
 
 // By ControlKind.
-constexpr std::array<QWidget* (*)(const ControlTemplate&, QWidget*), 12> kMakers{
+constexpr std::array<QWidget* (*)(const ControlTemplate&, QWidget*), 13> kMakers{
     MakeLabel,                 // Label
     MakeEdit,                  // Edit
     MakeTextArea,              // TextBox
@@ -160,6 +175,7 @@ constexpr std::array<QWidget* (*)(const ControlTemplate&, QWidget*), 12> kMakers
     MakeDropDown,              // DropDown
     MakeList,                  // List
     MakePicture,               // Picture
+    MakeArrows,                // Arrows
     MakeProgress,              // Progress
 };
 
@@ -208,6 +224,8 @@ void LineList::SetHeight(int lines) {
     setMinimumHeight(lines * lineHeight + 2 * frameWidth());
 }
 
+QSize LineList::sizeHint() const { return SizeAsTold(*this, QListView::sizeHint()); }
+
 void LineList::keyPressEvent(QKeyEvent* event) {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (!isEnter || !currentIndex().isValid() || !onChosen) return QListView::keyPressEvent(event);
@@ -245,6 +263,8 @@ void TextArea::SetText(std::string_view text) {
     moveCursor(isReadOnly() ? QTextCursor::Start : QTextCursor::End);
 }
 
+QSize TextArea::sizeHint() const { return SizeAsTold(*this, QPlainTextEdit::sizeHint()); }
+
 int TextArea::PositionOf(std::size_t character) const {
     const std::string before = Text().substr(0, character);
     const auto lineEnds = std::ranges::count(before, '\n');
@@ -274,6 +294,30 @@ void TextArea::KeepToLimit() {
     cursor.movePosition(QTextCursor::Left, QTextCursor::KeepAnchor, taken);
     cursor.removeSelectedText();
     cursor.endEditBlock();  // the text has changed: here again
+}
+
+// --- Arrows ---
+
+ArrowPair::ArrowPair(QWidget* parent) : QAbstractSpinBox(parent) {
+    lineEdit()->setReadOnly(true);
+    lineEdit()->setCursor(Qt::ArrowCursor);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+// As wide as the arrows alone.
+QSize ArrowPair::sizeHint() const {
+    const QSize whole = QAbstractSpinBox::sizeHint();
+    QStyleOptionSpinBox option;
+    initStyleOption(&option);
+    option.rect = QRect({0, 0}, whole);
+    const QRect arrow = style()->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxUp, this);
+    const QRect edit =
+        style()->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxEditField, this);
+    return {whole.width() - edit.width() + 2, std::max(whole.height(), 2 * arrow.height())};
+}
+
+void ArrowPair::stepBy(int steps) {
+    if (steps != 0 && onStep) onStep(steps > 0);
 }
 
 // --- Pictures ---

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QAbstractListModel>
+#include <QAbstractSpinBox>
 #include <QImage>
 #include <QListView>
 #include <QPlainTextEdit>
@@ -36,6 +37,7 @@ class LineList : public QListView {
   public:
     explicit LineList(QWidget* parent);
     void SetHeight(int lines);
+    QSize sizeHint() const override;
 
     std::function<void()> onChosen;  // Enter; a double click is a signal of the toolkit
     // The line that is the current one already was clicked. That, too, is a choice.
@@ -54,6 +56,7 @@ class TextArea : public QPlainTextEdit {
     void SetText(std::string_view text);
     void Select(std::size_t from, std::size_t count);
     void SetLimit(std::size_t characters) { limit = characters; }
+    QSize sizeHint() const override;
 
   private:
     void KeepToLimit();
@@ -75,6 +78,20 @@ class PictureArea : public QWidget {
   private:
     QImage image;
     QImage doubled;  // null: there is none
+};
+
+// The arrows of a number that stands elsewhere.
+class ArrowPair : public QAbstractSpinBox {
+  public:
+    explicit ArrowPair(QWidget* parent);
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+    void stepBy(int steps) override;
+
+    std::function<void(bool up)> onStep;
+
+  protected:
+    StepEnabled stepEnabled() const override { return StepUpEnabled | StepDownEnabled; }
 };
 
 // The widget of a control, of the size that the template says.

@@ -16,6 +16,7 @@
 #include "platform/geometry.h"
 #include "platform/image.h"
 
+class QDialog;
 class QImage;
 class QMenuBar;
 
@@ -56,6 +57,10 @@ QWidget* DialogParent();
 // to the middle of the screen; all of it on the screen.
 void MoveToMiddle(QWidget& dialog, std::optional<Point> middle = {});
 
+// Runs a modal dialog of the toolkit to its end, with the window shown as it stands; then the window behind
+// it is active again. The result is the toolkit's.
+int RunModal(QDialog& dialog);
+
 // A dialog of the toolkit that opens there.
 template <typename Dialog>
 class InTheMiddle : public Dialog {
@@ -80,13 +85,15 @@ void DeliverModelessEvents();
 
 // --- The rest ---
 
+QWidget* MainCanvas();  // of the main window; none before there is one
+
 // Gives the main window, if there is one, the menu bar of menu.cpp.
 void AttachMenuBar();
 QMenuBar* CurrentMenuBar();  // none before one is built; owned by the main window while there is one
 bool IsAcceleratorKey(int keyAndModifiers);
 
 QImage ToQImage(const Image& image);
-int UnitSize();  // of the main window, in the desktop's units; 1 before there is one
+int UnitSize();         // of the main window, in the desktop's units; 1 before there is one
 void EndSounds();
 
 template <typename Condition>

@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QTimer>
 #include <algorithm>
 #include <list>
@@ -42,6 +43,11 @@ void TellAll(Dialog& dialog) {
     if (dialog.failure && dialog.window) dialog.window->done(QDialog::Rejected);
 }
 
+// Those of a modeless dialog wait until the program takes messages.
+void TellWaiting(Dialog& dialog) {
+    if (dialog.isModal && !dialog.isTold) TellAll(dialog);
+}
+
 void RethrowFailure(Dialog& dialog) {
     if (dialog.failure) std::rethrow_exception(std::exchange(dialog.failure, nullptr));
 }
@@ -72,6 +78,10 @@ void Connect(Dialog& dialog, QWidget& widget, int id) {
         QObject::connect(dropDown, &QComboBox::currentIndexChanged, window, changed);
     } else if (auto* list = dynamic_cast<LineList*>(&widget)) {
         ConnectList(dialog, *list, id);
+    } else if (auto* arrows = dynamic_cast<ArrowPair*>(&widget)) {
+        arrows->onStep = [&dialog, id](bool up) {
+            Tell(dialog, up ? EventKind::SteppedUp : EventKind::SteppedDown, id);
+        };
     }
 }
 
@@ -143,11 +153,23 @@ void AddControls(Dialog& dialog, std::span<const ControlTemplate> controls) {
         }
         Place(rows, control, widget);
         if (control.id == 0) continue;
-        dialog.controls[control.id] = {.kind = control.kind, .widget = widget};
+        dialog.controls[control.id] = {.widget = widget, .text = std::string(control.text)};
         Connect(dialog, *widget, control.id);
     }
     const bool grows = std::ranges::any_of(controls, GrowsDownwards, &ControlTemplate::kind);
     if (!grows) window.layout()->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+// Left alone, the toolkit would shrink what is high to a part of the screen.
+void TakeWantedSize(DialogWindow& window) {
+    window.ensurePolished();
+    QLayout& layout = *window.layout();
+    layout.activate();
+    QSize wanted = layout.totalSizeHint();
+    if (layout.hasHeightForWidth()) {
+        wanted.setHeight(std::max(wanted.height(), layout.totalHeightForWidth(wanted.width())));
+    }
+    window.resize(wanted.boundedTo(window.screen()->availableSize()));
 }
 
 void Open(Dialog& dialog, const DialogTemplate& dialogTemplate) {
@@ -163,6 +185,7 @@ void TellOpened(Dialog& dialog) {
     dialog.waiting.push_back({.kind = EventKind::Opened});
     TellAll(dialog);
     RethrowFailure(dialog);
+    TakeWantedSize(*dialog.window);
 }
 
 }  // namespace
@@ -170,7 +193,7 @@ void TellOpened(Dialog& dialog) {
 void Tell(Dialog& dialog, EventKind kind, int control) {
     if (dialog.result || dialog.isSet) return;
     dialog.waiting.push_back({.kind = kind, .control = control});
-    if (dialog.isModal && !dialog.isTold) TellAll(dialog);
+    TellWaiting(dialog);
 }
 
 DialogWindow::DialogWindow(Dialog& shownDialog, QWidget* parent)
@@ -200,8 +223,10 @@ bool DialogWindow::eventFilter(QObject* watched, QEvent* event) {
                         reason == Qt::MenuBarFocusReason;
     for (const auto& [id, control] : dialog.controls) {
         if (control.widget != watched || isBack) continue;
-        // The focus is still on its way; the handler may want to send it elsewhere.
-        QTimer::singleShot(0, this, [this, left = id] { Tell(dialog, EventKind::FocusLeft, left); });
+        // Told before anything else happens, but not yet: the focus is still on its way, and the handler may
+        // want to send it elsewhere.
+        dialog.waiting.push_back({.kind = EventKind::FocusLeft, .control = id});
+        QTimer::singleShot(0, this, [this] { TellWaiting(dialog); });
     }
     return false;
 }
@@ -210,8 +235,7 @@ int RunDialog(const DialogTemplate& dialogTemplate, const DialogHandler& handler
     Dialog dialog{.isModal = true, .handler = handler};
     Open(dialog, dialogTemplate);
     TellOpened(dialog);
-    ShowChanges();
-    if (!dialog.result) dialog.window->exec();
+    if (!dialog.result) RunModal(*dialog.window);
     RethrowFailure(dialog);
     return dialog.result.value_or(kCancelId);
 }

@@ -28,6 +28,11 @@ Widget& As(Dialog& dialog, int control) {
     return static_cast<Widget&>(widget);
 }
 
+bool IsLabelOrButton(const QWidget& widget) {
+    return qobject_cast<const QLabel*>(&widget) != nullptr ||
+           qobject_cast<const QAbstractButton*>(&widget) != nullptr;
+}
+
 QModelIndex LineAt(LineList& list, int line) { return list.model()->index(line, 0); }
 
 void ChooseLine(QWidget& widget, int line) {
@@ -46,10 +51,9 @@ void ChooseLine(QWidget& widget, int line) {
 std::string ControlText(Dialog& dialog, int control) {
     QWidget& widget = WidgetOf(dialog, control);
     if (const auto* area = dynamic_cast<TextArea*>(&widget)) return area->Text();
+    if (IsLabelOrButton(widget)) return dialog.controls.at(control).text;
     QString text;
     if (const auto* edit = qobject_cast<QLineEdit*>(&widget)) text = edit->text();
-    if (const auto* label = qobject_cast<QLabel*>(&widget)) text = label->text();
-    if (const auto* button = qobject_cast<QAbstractButton*>(&widget)) text = button->text();
     if (const auto* dropDown = qobject_cast<QComboBox*>(&widget)) text = dropDown->currentText();
     if (const auto* list = dynamic_cast<LineList*>(&widget)) text = list->currentIndex().data().toString();
     return FromQString(text);
@@ -60,8 +64,16 @@ void SetControlText(Dialog& dialog, int control, std::string_view text) {
     QWidget& widget = WidgetOf(dialog, control);
     if (auto* area = dynamic_cast<TextArea*>(&widget)) area->SetText(text);
     if (auto* edit = qobject_cast<QLineEdit*>(&widget)) edit->setText(ToQString(text));
-    if (auto* label = qobject_cast<QLabel*>(&widget)) label->setText(ToQString(text));
-    if (auto* button = qobject_cast<QAbstractButton*>(&widget)) button->setText(ToQString(text));
+    if (!IsLabelOrButton(widget)) return;
+    dialog.controls.at(control).text = text;
+    // Where the toolkit looks for an access key, "&&" stands for "&".
+    QString shown = ToQString(text);
+    auto* label = qobject_cast<QLabel*>(&widget);
+    if (label == nullptr || label->buddy() != nullptr) {
+        shown.replace(QLatin1Char('&'), QStringLiteral("&&"));
+    }
+    if (label != nullptr) return label->setText(shown);
+    static_cast<QAbstractButton&>(widget).setText(shown);
 }
 
 void SetProgress(Dialog& dialog, int control, int percent) {

@@ -24,8 +24,7 @@ std::optional<std::string> Ask(const FileRequest& request, QFileDialog::AcceptMo
     }
     if (!request.folder.empty()) dialog.setDirectory(ToPath(request.folder));
     if (!request.name.empty()) dialog.selectFile(ToPath(request.name));
-    ShowChanges();
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+    if (RunModal(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
     return QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString();
 }
 

@@ -11,11 +11,10 @@ namespace {
 
 using Box = InTheMiddle<QMessageBox>;
 
-// Shows the box; the toolkit chooses what Escape and the close box press.
-void Run(Box& box) {
+// Shows the box; the toolkit chooses what Escape and the close box press. The result is a standard button's.
+int Run(Box& box) {
     box.setTextFormat(Qt::PlainText);
-    ShowChanges();
-    box.exec();
+    return RunModal(box);
 }
 
 }  // namespace
@@ -33,15 +32,13 @@ bool ShowQuestionBox(std::string_view title, std::string_view text, bool yesIsDe
     Box box(QMessageBox::Question, ToQString(title), ToQString(text), QMessageBox::Yes | QMessageBox::No,
             DialogParent());
     box.setDefaultButton(yesIsDefault ? QMessageBox::Yes : QMessageBox::No);
-    Run(box);
-    return box.result() == QMessageBox::Yes;
+    return Run(box) == QMessageBox::Yes;
 }
 
 bool ShowRetryBox(std::string_view title, std::string_view text) {
     Box box(QMessageBox::Warning, ToQString(title), ToQString(text), QMessageBox::Retry | QMessageBox::Cancel,
             DialogParent());
-    Run(box);
-    return box.result() == QMessageBox::Retry;
+    return Run(box) == QMessageBox::Retry;
 }
 
 void Beep() { QApplication::beep(); }

@@ -27,8 +27,8 @@ class DialogWindow : public InTheMiddle<QDialog> {
 };
 
 struct OpenControl {
-    ControlKind kind = ControlKind::Label;
     QWidget* widget = nullptr;  // owned by the window
+    std::string text;           // of labels and buttons, as it was set
 };
 
 struct Dialog {

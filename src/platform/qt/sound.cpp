@@ -1,15 +1,20 @@
 #include "platform/sound.h"
 
+#include <unistd.h>
+
 #include <QAudioFormat>
 #include <QAudioSink>
 #include <QBuffer>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
-#include <QLoggingCategory>
 #include <QMediaDevices>
 #include <QThread>
 #include <QTimer>
+#include <algorithm>
 #include <atomic>
+#include <cstdio>
+#include <cstdlib>
 #include <memory>
 
 #include "platform/qt/desktop.h"
@@ -46,6 +51,7 @@ class Player : public QObject {
     void HearState(QAudio::State state);
 
     RequestPointer current;
+    QElapsedTimer sinceStart;  // of the current one
     QBuffer samples;
     std::unique_ptr<QAudioSink> sink;
 };
@@ -59,11 +65,15 @@ void Player::Stop() {
 }
 
 void Player::HearState(QAudio::State state) {
-    if (state == QAudio::ActiveState) current->fate = Fate::Playing;
+    if (state == QAudio::ActiveState && current->fate == Fate::Waiting) {
+        sinceStart.start();
+        current->fate = Fate::Playing;
+    }
     if (state == QAudio::StoppedState) return Stop();
     if (state != QAudio::IdleState) return;
     // All was handed to the device. A device that is left open would go on asking for more.
-    QTimer::singleShot(kTail, this, [this, ended = current] {
+    const auto left = static_cast<qint64>(current->wave.Milliseconds()) - sinceStart.elapsed();
+    QTimer::singleShot(static_cast<int>(std::max<qint64>(left, 0)) + kTail, this, [this, ended = current] {
         if (current == ended) Stop();
     });
 }
@@ -133,6 +143,19 @@ RequestPointer Hand(const std::string& path) {
     return state.last = request;
 }
 
+// A device that hangs keeps its thread, and with it what the toolkit wants to lock when the program exits:
+// skips the rest of that.
+void EndWithoutWaiting() {
+#ifdef __GLIBC__
+    on_exit(
+        [](int status, void*) {
+            std::fflush(nullptr);
+            _exit(status);
+        },
+        nullptr);
+#endif
+}
+
 }  // namespace
 
 void StartSound(const std::string& path) { Hand(path); }
@@ -150,10 +173,11 @@ void EndSounds() {
     QMetaObject::invokeMethod(
         state.player, [] { state.player->Stop(); }, Qt::QueuedConnection);
     state.thread->quit();
-    // A device that hangs keeps its thread; the program ends all the same.
     if (state.thread->wait(kMaxEnd)) {
         delete state.player;
         delete state.thread;
+    } else {
+        EndWithoutWaiting();
     }
     qInstallMessageHandler(handlerBefore);
     state = {};

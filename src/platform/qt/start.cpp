@@ -24,7 +24,6 @@ bool StartPlatform(int& argumentCount, char** arguments) {
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::Round);
     application = std::make_unique<QApplication>(argumentCount, arguments);
     QApplication::setApplicationName(QStringLiteral("quillet"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Quillet"));
     QApplication::setQuitOnLastWindowClosed(false);
     return true;
 }

@@ -1,6 +1,7 @@
 #include "platform/window.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QMenuBar>
 #include <QScreen>
 #include <QStyle>
@@ -140,9 +141,11 @@ void CreateMainWindow(std::string_view title, Size client, int zoom, Point place
     AttachMenuBar();
     ResizeMainWindow(client, place);
     state.window->show();
-    // Until the desktop shows the window, nothing that is drawn would be seen.
+    // Until the desktop shows the window, nothing that is drawn would be seen; until it is active, no sound
+    // is played.
     const QDeadlineTimer deadline = DeadlineIn(kMaxTimeToAppear);
-    while (!state.window->windowHandle()->isExposed() && !deadline.hasExpired()) SleepUntil(deadline);
+    const auto isThere = [] { return state.window->windowHandle()->isExposed() && WindowIsActive(); };
+    while (!isThere() && !deadline.hasExpired()) SleepUntil(deadline);
     FollowScale();
 }
 
@@ -219,7 +222,21 @@ void MoveToMiddle(QWidget& dialog, std::optional<Point> middle) {
                        size.width(), size.height());
 }
 
+int RunModal(QDialog& dialog) {
+    constexpr std::uint32_t kMaxTimeToReturn = 250;
+    const QWidget* behind = dialog.parentWidget();
+    const bool wasActive = behind != nullptr && behind->isActiveWindow();
+    ShowChanges();
+    const int result = dialog.exec();
+    // The desktop gives the focus back in its own time; what comes next may ask who has it.
+    const QDeadlineTimer deadline = DeadlineIn(kMaxTimeToReturn);
+    while (wasActive && !behind->isActiveWindow() && !deadline.hasExpired()) SleepUntil(deadline);
+    return result;
+}
+
 // --- The pointer ---
+
+QWidget* MainCanvas() { return state.window ? &state.window->CanvasArea() : nullptr; }
 
 Point PointerPosition() { return state.window ? state.window->CanvasArea().LastPointer() : Point{-1, -1}; }
 
