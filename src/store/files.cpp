@@ -239,6 +239,8 @@ std::optional<std::string> SystemPath(std::string_view path) {
     return place ? std::optional(place->string()) : std::nullopt;
 }
 
+std::string SystemName(std::string_view name) { return Utf8FromLatin1(name); }
+
 bool FolderExists(std::string_view path) { return fs::is_directory(StatusOf(path)); }
 
 bool FileExists(std::string_view path) {

@@ -44,6 +44,7 @@ const std::string& DataFolder();
 
 // The file system's own name for a path; none for one that cannot lie anywhere. Nothing need be there.
 std::optional<std::string> SystemPath(std::string_view path);
+std::string SystemName(std::string_view name);  // likewise for a name without a folder
 
 bool FolderExists(std::string_view path);
 bool FileExists(std::string_view path);

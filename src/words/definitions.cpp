@@ -9,6 +9,7 @@
 #include <string>
 #include <utility>
 
+#include "base/messages.h"
 #include "platform/message_box.h"
 #include "resources/strings.h"
 #include "store/files.h"
@@ -175,6 +176,13 @@ std::optional<std::string_view> FindWordOrBaseForm(std::string_view contents, Ty
 }
 
 }  // namespace
+
+bool DefinitionsFolderExists() {
+    const std::string_view folder = ResourceString(StringId::DefinitionsFolder);
+    if (FolderExists(folder)) return true;
+    Warning("Sorry, the ", folder, " folder is missing.");
+    return false;
+}
 
 Definition LookUpDefinition(std::string_view typed) {
     Definition result;
