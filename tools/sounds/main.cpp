@@ -23,6 +23,8 @@ namespace {
 namespace fs = std::filesystem;
 using Arguments = std::span<char*>;
 
+constexpr double kLongestVoice = 2.2;  // seconds: the game waits for it
+
 bool Fail(const char* what, const std::string& path) {
     std::fprintf(stderr, "%s %s\n", what, path.c_str());
     return false;
@@ -47,7 +49,9 @@ bool MakeVoiceFile(Arguments arguments) {
     const double size = std::strtod(arguments[1], nullptr);
     if (size < 0.5 || size > 2) return Fail("Not a size of a speaker, 0.5 to 2:", arguments[1]);
     if (!IsManner(arguments[2])) return Fail("Not a manner of speaking:", arguments[2]);
-    return Write(arguments[3], MakeVoice(*spoken, size, arguments[2]));
+    const Wave voice = MakeVoice(*spoken, size, arguments[2]);
+    if (voice.Seconds() > kLongestVoice) return Fail("Says too much for 2.2 seconds:", arguments[3]);
+    return Write(arguments[3], voice);
 }
 
 // Sorted by folder and name.

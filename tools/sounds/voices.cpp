@@ -11,21 +11,38 @@
 namespace quillet {
 namespace {
 
-constexpr double kLoudness = -20;   // LUFS, as of the game's own sounds
-constexpr float kHush = 0.012F;     // of the highest peak: what is softer at the ends is silence
-constexpr double kBreath = 0.02;    // seconds of it that stay
-constexpr double kLoudPart = 0.35;  // of full scale: louder peaks are softened
+constexpr double kLoudness = -20;                // LUFS, as of the game's own sounds
+constexpr float kHush = 0.012F;                  // of the highest peak: what is softer at the ends is silence
+constexpr double kBreath = 0.02, kPause = 0.15;  // seconds of it that stay, at the ends and between
+constexpr double kLoudPart = 0.35;               // of full scale: louder peaks are softened
 
-void Trim(Wave& wave) {
+float Peak(const Wave& wave) {
     float peak = 0;
     for (const float sample : wave.samples) peak = std::max(peak, std::abs(sample));
-    const auto isHeard = [&](float sample) { return std::abs(sample) > peak * kHush; };
+    return peak;
+}
+
+void Trim(Wave& wave) {
+    const auto isHeard = [hush = kHush * Peak(wave)](float sample) { return std::abs(sample) > hush; };
     auto& samples = wave.samples;
     const auto breath = static_cast<std::ptrdiff_t>(kBreath * wave.rate);
     const auto last = std::find_if(samples.rbegin(), samples.rend(), isHeard).base();
     samples.erase(last + std::min(breath, samples.end() - last), samples.end());
     const auto first = std::ranges::find_if(samples, isHeard);
     samples.erase(samples.begin(), first - std::min(breath, first - samples.begin()));
+}
+
+// Speech synthesisers take a long breath between sentences.
+void ShortenPauses(Wave& wave) {
+    const auto longest = static_cast<std::size_t>(kPause * wave.rate);
+    const float hush = kHush * Peak(wave);
+    std::vector<float> samples;
+    std::size_t silent = 0;
+    for (const float sample : wave.samples) {
+        silent = std::abs(sample) > hush ? 0 : silent + 1;
+        if (silent <= longest) samples.push_back(sample);
+    }
+    wave.samples = std::move(samples);
 }
 
 // As if spoken by somebody of that size, who is also so much quicker.
@@ -60,7 +77,7 @@ void AddHoot(Wave& wave, Hoot hoot) {
             std::sin(std::numbers::pi * static_cast<double>(i) / static_cast<double>(length));
         phase += 2 * std::numbers::pi * (330 + 55 * swell) / wave.rate;
         const double tone = std::sin(phase) + 0.12 * std::sin(2 * phase) + 0.05 * std::sin(3 * phase);
-        wave.samples.push_back(static_cast<float>(0.3 * std::pow(swell, 0.7) * tone));
+        wave.samples.push_back(static_cast<float>(0.11 * std::pow(swell, 0.7) * tone));
     }
     wave.samples.resize(wave.samples.size() + static_cast<std::size_t>(hoot.pause * wave.rate));
 }
@@ -103,6 +120,7 @@ bool IsManner(std::string_view manner) {
 Wave MakeVoice(const Wave& spoken, double size, std::string_view manner) {
     Wave wave = spoken;
     Trim(wave);
+    ShortenPauses(wave);
     wave = Resized(wave, size);
     Clean(wave);
     SetLoudness(wave, kLoudness);
