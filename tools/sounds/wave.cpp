@@ -60,7 +60,7 @@ std::string Header(const Wave& wave, std::uint32_t dataSize) {
 std::optional<Wave> ReadWave(const std::string& path) {
     std::ifstream stream(path, std::ios::binary);
     const std::string file(std::istreambuf_iterator<char>(stream), {});
-    if (!file.starts_with("RIFF") || file.substr(8, 4) != "WAVE") return std::nullopt;
+    if (file.size() < 12 || !file.starts_with("RIFF") || file.substr(8, 4) != "WAVE") return std::nullopt;
     const std::string_view format = Chunk(file, "fmt "), data = Chunk(file, "data");
     if (format.size() < kFormatSize || Get(format, 0, 2) != kPcm ||
         Get(format, 14, 2) != kBytesOfSample * 8) {
