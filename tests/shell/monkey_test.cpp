@@ -1,5 +1,5 @@
-// Somebody who clicks, types, drags and chooses at random, while the game's tiles and scores must go on adding up.
-// QUILLET_MONKEY_STEPS sets how much of it (a long run: 300000).
+// Somebody who clicks, types, drags and chooses at random, while the game's tiles and scores must go on
+// adding up. QUILLET_MONKEY_STEPS sets how much of it (a long run: 300000).
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -22,12 +22,13 @@ class Monkey : public RunningProgram {
 
     Point SomePoint() {
         const Layout& at = view.layout;
-        const Point likely[] = {MiddleOfSlot(1 + Below(8)),     MiddleOfSquare(1 + Below(15), 1 + Below(15)),
-                                MiddleOf(at.bagRect),           MiddleOf(at.doneButton),
-                                MiddleOf(at.mixButton),         MiddleOf(at.lettersLeftBox),
-                                MiddleOf(at.statisticsBox),     MiddleOf(at.bonusWordsBox),
-                                MiddleOf(at.BagViewTrigger()),  {at.playerRow[1].right - 5, at.playerRow[1 + Below(4)].top + 5},
-                                {178 + Below(20), Below(400)}};
+        const Point likely[] = {
+            MiddleOfSlot(1 + Below(8)),    MiddleOfSquare(1 + Below(15), 1 + Below(15)),
+            MiddleOf(at.bagRect),          MiddleOf(at.doneButton),
+            MiddleOf(at.mixButton),        MiddleOf(at.lettersLeftBox),
+            MiddleOf(at.statisticsBox),    MiddleOf(at.bonusWordsBox),
+            MiddleOf(at.BagViewTrigger()), {at.playerRow[1].right - 5, at.playerRow[1 + Below(4)].top + 5},
+            {178 + Below(20), Below(400)}};
         if (OneIn(4)) return {Below(700) - 20, Below(500) - 20};
         return likely[static_cast<std::size_t>(Below(std::size(likely)))];
     }
@@ -54,8 +55,8 @@ class Monkey : public RunningProgram {
     }
 
     void UseMenus() {
-        const HeadlessMenuItem& item =
-            headlessWindow.menuItems[static_cast<std::size_t>(Below(static_cast<int>(headlessWindow.menuItems.size())))];
+        const HeadlessMenuItem& item = headlessWindow.menuItems[static_cast<std::size_t>(
+            Below(static_cast<int>(headlessWindow.menuItems.size())))];
         constexpr int kQuit = 9;
         if (item.command != kQuit && item.command != 0) ChooseMenuItem(item.command);
     }
@@ -70,7 +71,8 @@ class Monkey : public RunningProgram {
 
     // What happens in a dialog: a few controls are used, then perhaps its button is pressed.
     void PlayDialog(Dialog& dialog) {
-        static constexpr const char* kTexts[] = {"", "7", "Ann", "a name that is much too long for anything", "CAT", "x\xE9z", "99"};
+        static constexpr const char* kTexts[] = {
+            "", "7", "Ann", "a name that is much too long for anything", "CAT", "x\xE9z", "99"};
         for (int i = Below(6); i > 0 && !dialog.result; --i) {
             auto control = dialog.controls.begin();
             std::advance(control, Below(static_cast<int>(dialog.controls.size())));
@@ -82,7 +84,10 @@ class Monkey : public RunningProgram {
                     break;
                 case ControlKind::DropDown:
                 case ControlKind::List:
-                    if (control->second.lineCount > 0) ChooseLine(dialog, id, Below(static_cast<int>(std::min<std::size_t>(control->second.lineCount, 1000))));
+                    if (control->second.lineCount > 0)
+                        ChooseLine(
+                            dialog, id,
+                            Below(static_cast<int>(std::min<std::size_t>(control->second.lineCount, 1000))));
                     break;
                 case ControlKind::Arrows:
                     StepArrows(dialog, id, OneIn(2));
@@ -141,7 +146,8 @@ TEST_F(Monkey, NeverBringsTheGameOutOfStep) {
     const char* wanted = std::getenv("QUILLET_MONKEY_STEPS");
     const int steps = wanted != nullptr ? std::atoi(wanted) : 3000;
     for (int step = 0; step < steps; ++step) {
-        ASSERT_NO_THROW(Step()) << step << ": " << (headless.messages.empty() ? "" : headless.messages.back().text);
+        ASSERT_NO_THROW(Step()) << step << ": "
+                                << (headless.messages.empty() ? "" : headless.messages.back().text);
         ASSERT_FALSE(hasEnded);
         if (game.editorActive) continue;
         const auto problem = FindInconsistency(game);

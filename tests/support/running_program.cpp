@@ -28,14 +28,18 @@ RunningProgram::RunningProgram() {
     wordList = {};
     formedWords = {};
     view = {};
-    for (const char* folder : {"Data/Prefs", "Word Lists", "Statistics", "Scenarios", "Opponents", "Definitions"}) {
+    for (const char* folder :
+         {"Data/Prefs", "Word Lists", "Statistics", "Scenarios", "Opponents", "Definitions"}) {
         MakeFolder(folder);
     }
-    for (const char* folder : {"Data/Graphics", "Data/Sounds"}) fs::create_directory_symlink(kAssets / folder, root / folder);
+    for (const char* folder : {"Data/Graphics", "Data/Sounds"})
+        fs::create_directory_symlink(kAssets / folder, root / folder);
     for (const char* name : {"Words", "Common"}) {
-        fs::copy_file(kAssets / "Word Lists" / "Common.qld", root / "Word Lists" / (std::string(name) + ".qld"));
+        fs::copy_file(kAssets / "Word Lists" / "Common.qld",
+                      root / "Word Lists" / (std::string(name) + ".qld"));
     }
-    for (const char* folder : {"Scenarios/Standard", "Scenarios/Quick Nine", "Opponents/Pip", "Opponents/Strix"}) {
+    for (const char* folder :
+         {"Scenarios/Standard", "Scenarios/Quick Nine", "Opponents/Pip", "Opponents/Strix"}) {
         fs::copy(kAssets / folder, root / folder);
     }
     WriteFile("Data/Help/HELPITEMS.txt", "Tips\r\n");
@@ -56,9 +60,8 @@ void RunningProgram::Start(const std::string& savedGame) {
 }
 
 void RunningProgram::StartGame(std::initializer_list<std::string_view> names) {
+    WritePlayerNames(std::vector<PlayerName>(names.begin(), names.end()));
     Start();
-    std::vector<PlayerName> players(names.begin(), names.end());
-    WritePlayerNames(players);
     ChooseMenuItem(1);
     Run();
     // Whoever begins by lot: the seats turn until it is the first player.

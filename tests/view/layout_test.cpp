@@ -27,12 +27,13 @@ TEST(Layout, NothingOverlapsOrLeavesTheWindow) {
     for (const auto& [big, above] : kArrangements) {
         SCOPED_TRACE(std::to_string(big) + std::to_string(above));
         const Layout layout = ComputeLayout(big, above, kSizes);
-        const std::vector<Rect> panels{layout.boardFrame, layout.rackRect,   layout.infoPanel,  layout.visibleNote,
-                                       layout.bagRect,    layout.doneButton, layout.mixButton, layout.lettersLeftBox,
-                                       layout.logoRect};
+        const std::vector<Rect> panels{layout.boardFrame,  layout.rackRect,       layout.infoPanel,
+                                       layout.visibleNote, layout.bagRect,        layout.doneButton,
+                                       layout.mixButton,   layout.lettersLeftBox, layout.logoRect};
         for (std::size_t i = 0; i < panels.size(); ++i) {
             EXPECT_TRUE(Rect::At({0, 0}, layout.client).Contains(panels[i])) << i;
-            for (std::size_t j = i + 1; j < panels.size(); ++j) EXPECT_FALSE(panels[i].Meets(panels[j])) << i << j;
+            for (std::size_t j = i + 1; j < panels.size(); ++j)
+                EXPECT_FALSE(panels[i].Meets(panels[j])) << i << j;
         }
         for (const Rect& row : layout.playerRow) EXPECT_TRUE(layout.visibleNote.Contains(row));
         EXPECT_FALSE(layout.clockRow.Meets(layout.playerRow[4]));
@@ -81,7 +82,10 @@ TEST(Layout, SmallerBoardsStandInTheMiddleOfTheFrame) {
 // --- The window on the screen ---
 
 Display Screen(int width, int height) {
-    return {.size = {width, height}, .workArea = {0, 0, width, height}, .frameWidth = 4, .captionHeight = 20,
+    return {.size = {width, height},
+            .workArea = {0, 0, width, height},
+            .frameWidth = 4,
+            .captionHeight = 20,
             .menuHeight = 20};
 }
 
@@ -93,7 +97,8 @@ TEST(WindowPlace, IsKeptOnlyWhileTheClientAreaIsWhollyOnTheScreen) {
     const Point middle = ClientCorner(screen, client, {-1000, -1000});
     EXPECT_EQ(middle.x, (1024 - (client.width + 8)) / 2 + 4);
     EXPECT_EQ(middle.y, (748 + 20 - (client.height + 48)) / 2 + 44);
-    for (Point off : {Point{last.x + 1, 0}, Point{0, last.y + 1}, Point{-1, 5}, Point{2147483647, 2147483647}}) {
+    for (Point off :
+         {Point{last.x + 1, 0}, Point{0, last.y + 1}, Point{-1, 5}, Point{2147483647, 2147483647}}) {
         EXPECT_EQ(ClientCorner(screen, client, off), middle);
     }
 }

@@ -20,12 +20,14 @@ class Hand : public RunningProgram {
         GiveRack(1, codes);
         auto& slots = game.players[1].rack.positions;
         slots = {};
-        for (std::size_t i = 0; i < rack.size(); ++i) slots[i + 1] = rack[i] == '?' ? kBlank : rack[i] == '.' ? '\0' : rack[i];
+        for (std::size_t i = 0; i < rack.size(); ++i)
+            slots[i + 1] = rack[i] == '?' ? kBlank : rack[i] == '.' ? '\0' : rack[i];
         headless.beeps = 0;
     }
     void ExpectRack(const std::string& slots) {
         std::string text;
-        for (char code : game.players[1].rack.positions) text += code == 0 ? '.' : code == kBlank ? '?' : code;
+        for (char code : game.players[1].rack.positions)
+            text += code == 0 ? '.' : code == kBlank ? '?' : code;
         EXPECT_EQ(text, slots);
         const auto problem = FindInconsistency(game);
         EXPECT_FALSE(problem.has_value()) << *problem;
@@ -70,7 +72,8 @@ TEST_F(Hand, RearrangesTheRack) {
         {"ABC.EFG.", 1, 8, kShift, "EFG..ABC"},  // a run comes along, to the highest free slots
     };
     for (const RackDrag& drag : drags) {
-        SCOPED_TRACE(std::string(drag.before) + " " + std::to_string(drag.from) + " to " + std::to_string(drag.to));
+        SCOPED_TRACE(std::string(drag.before) + " " + std::to_string(drag.from) + " to " +
+                     std::to_string(drag.to));
         if (drag.held == kShift) continue;
         RunningProgram::hasEnded = false;
         Begin(drag.before);
