@@ -67,16 +67,27 @@ std::optional<std::vector<std::string>> LinesOf(const std::string& path) {
 }
 
 void CheckWordLists(Problems& problems) {
-    const std::vector<std::string> names = ListWordLists();
-    if (names.empty()) problems.Add("Word Lists", "there are no word lists");
+    std::vector<std::string> names;
+    problems.Try("Word Lists", [&] {
+        names = ListWordLists();
+        if (names.empty()) problems.Add("Word Lists", "there are no word lists");
+    });
     for (const std::string& name : names) {
         problems.Try("Word Lists\\" + name, [&] { ReadWords(name); });
     }
 }
 
-bool IsKnownWordList(std::string_view list) {
-    return std::ranges::any_of(ListWordLists(),
-                               [&](const std::string& name) { return EqualIgnoringCase(name, list); });
+bool IsKnownWordList(std::string_view list) { return FileExists(WordListPath(list)); }
+
+// Reads the picture and its twin, if they are there.
+std::optional<Image> CheckPicture(Problems& problems, const std::string& path) {
+    std::optional<Image> image = LoadBitmapFile(path);
+    const std::optional<Image> twin = LoadBitmapFile(PathOfTwin(path));
+    if (!image || !twin) return image;
+    if (twin->width != 2 * image->width || twin->height != 2 * image->height) {
+        problems.Add(std::string(PathOfTwin(path)), "is not twice the size of " + path);
+    }
+    return image;
 }
 
 // An item that must have exactly that many characters.
@@ -117,9 +128,10 @@ void CheckScenario(Problems& problems, const std::string& name) {
         if (bonusDict.numwords < words - bonusWords.begin()) {
             problems.Add(where, "a bonus word (602.str) has other characters than A to Z, or stands twice");
         }
-        if (ReadAboutText().value_or("").empty()) problems.Add(where, "there is no about text (199.str)");
+        if (ReadAboutText().value_or(std::string()).empty())
+            problems.Add(where, "there is no about text (199.str)");
         for (SquareKind kind = 0; kind < kSquareKinds.size(); ++kind) {
-            LoadBitmapFile(where + "\\" + SquarePictureName(kind));
+            CheckPicture(problems, where + "\\" + SquarePictureName(kind));
         }
     });
 }
@@ -136,7 +148,7 @@ void CheckOpponents(Problems& problems) {
                 problems.Add(where, "has the unknown word list " + std::string(list.View()));
             }
             for (int mood = 1; mood <= kNumMoods; ++mood) {
-                LoadBitmapFile(where + "\\" + std::to_string(9000 + mood) + ".bmp");
+                CheckPicture(problems, where + "\\" + std::to_string(9000 + mood) + ".bmp");
             }
         });
     }
@@ -193,7 +205,7 @@ void CheckGraphics(Problems& problems) {
     for (const std::string& name : ListFiles(ResourceString(StringId::GraphicsFolder), ".bmp")) {
         const std::string where = FolderPath(StringId::GraphicsFolder, name + ".bmp");
         problems.Try(where, [&] {
-            const std::optional<Image> image = LoadGraphicsBitmap(name + ".bmp");
+            const std::optional<Image> image = CheckPicture(problems, where);
             const auto sheet = std::ranges::find_if(
                 kSheets, [&](const SheetSize& size) { return EqualIgnoringCase(size.file, name); });
             if (!image || sheet == std::end(kSheets)) return;

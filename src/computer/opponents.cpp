@@ -21,7 +21,7 @@ constexpr std::size_t kMaxWordListChoices = 100;  // besides the current one
 
 // Entries 1 to count are compared in order; 0 when none has the name.
 int OpponentNamed(std::string_view name) {
-    for (int i = 1; i <= opponentTable.count; ++i) {
+    for (int i = 1; i <= opponentTable.numOpponents; ++i) {
         if (EqualIgnoringCase(opponentTable.entries[static_cast<std::size_t>(i)].name, name)) return i;
     }
     return 0;
@@ -41,10 +41,10 @@ WordListName ReadLexicon(const Opponent& opponent) {
     return ReadItemText<WordListName::capacity()>(opponentStore, kLexiconItem);
 }
 
-std::optional<Image> LoadPicture(const Opponent& opponent, int mood) {
+std::optional<Picture> LoadMood(const Opponent& opponent, int mood) {
     FilePath path = FolderOf(opponent);
     path.Append("\\" + std::to_string(kPictures + mood) + ".bmp");
-    return LoadBitmapFile(path);
+    return LoadPicture(path);
 }
 
 void LoadOpponent(Opponent& opponent) {
@@ -52,7 +52,7 @@ void LoadOpponent(Opponent& opponent) {
     opponent.lexicon = ReadLexicon(opponent);
     const auto colour = ReadItemText<15>(opponentStore, kTextColourItem);
     opponent.textColour = colour.empty() ? kWhite : ColourNamed(colour);
-    for (int mood = 1; mood <= kNumMoods; ++mood) opponent.pictures[mood] = LoadPicture(opponent, mood);
+    for (int mood = 1; mood <= kNumMoods; ++mood) opponent.pictures[mood] = LoadMood(opponent, mood);
     for (int k = 1; k <= kNumVoices; ++k) {
         opponent.voices[k] = opponent.name.View();
         opponent.voices[k].Append("\\" + std::to_string(kVoices + k) + ".wav");
@@ -71,11 +71,11 @@ void ListOpponents() {
         Warning("FindFirstFile failed!");
     }
     for (const std::string& name : names.value_or(std::vector<std::string>{})) {
-        if (opponentTable.count == kMaxOpponents) break;
-        OpponentAt(++opponentTable.count).name = std::string_view(name);
+        if (opponentTable.numOpponents == kMaxOpponents) break;
+        OpponentAt(++opponentTable.numOpponents).name = std::string_view(name);
     }
     const std::span found =
-        std::span(opponentTable.entries).subspan(1, static_cast<std::size_t>(opponentTable.count));
+        std::span(opponentTable.entries).subspan(1, static_cast<std::size_t>(opponentTable.numOpponents));
     std::ranges::stable_sort(
         found, [](const Opponent& a, const Opponent& b) { return CompareIgnoringCase(a.name, b.name) < 0; });
     ReadPlayerSetUp();
@@ -97,10 +97,9 @@ void PlayerKindFromName(int p) {
 void ReadPlayerSetUp() {
     const std::vector<PlayerName> names = ReadPlayerNames();
     game.numPlayers = static_cast<std::uint16_t>(names.size());
+    for (Player& player : game.players) player.rack = {};
     for (int p = 1; p <= game.numPlayers; ++p) {
-        Player& player = game.players[p];
-        player.name = names[static_cast<std::size_t>(p) - 1];
-        player.rack = {};
+        game.players[p].name = names[static_cast<std::size_t>(p) - 1];
         PlayerKindFromName(p);
     }
     game.currentPlayer = 1;
@@ -124,8 +123,8 @@ void LoadOpponentData() {
     }
 }
 
-std::optional<Image> LoadOpponentPicture(int opponent, int mood) {
-    return LoadPicture(OpponentAt(opponent), mood);
+std::optional<Picture> LoadOpponentPicture(int opponent, int mood) {
+    return LoadMood(OpponentAt(opponent), mood);
 }
 
 std::vector<std::string> WordListChoices() {
@@ -144,7 +143,7 @@ std::size_t WordListChoiceOf(int opponent, const std::vector<std::string>& choic
 }
 
 void SaveOpponentLexicon(int opponent, const std::vector<std::string>& choices, std::size_t choice) {
-    if (opponent < 1 || opponent > opponentTable.count) return;
+    if (opponent < 1 || opponent > opponentTable.numOpponents) return;
     const Opponent& changed = OpponentAt(opponent);
     if (!FolderExists(FolderOf(changed))) {
         Warning("Could not find opponent: ", changed.name);
@@ -152,6 +151,10 @@ void SaveOpponentLexicon(int opponent, const std::vector<std::string>& choices, 
     }
     const std::string_view chosen = choice == 0 ? std::string_view{} : choices[choice];
     if (EqualIgnoringCase(ReadLexicon(changed), chosen)) return;
+    if (!FolderExists(FolderOf(changed))) {
+        Warning("Could not save changes to opponent: ", changed.name);
+        return;
+    }
     WriteItemText(opponentStore, kLexiconItem, chosen);
 }
 

@@ -29,15 +29,15 @@ struct Opponent {
     Text<10> name = "unknown";  // the opponent's folder, cut
     WordListName lexicon;       // its own word list; empty: it plays with the current one
     Colour textColour = kWhite;
-    OneBased<std::optional<Image>, kNumMoods>
+    OneBased<std::optional<Picture>, kNumMoods>
         pictures;                           // none: its folder lacks that one, or it does not play
     OneBased<Text<31>, kNumVoices> voices;  // wave files, relative to the opponents folder
 };
 
 struct OpponentTable {
-    // 1..count are the opponents found, sorted by name; 0 keeps the defaults and stands in for none.
+    // 1..numOpponents are the opponents found, sorted by name; 0 keeps the defaults and stands in for none.
     std::array<Opponent, kMaxOpponents + 1> entries;
-    int count = 0;
+    int numOpponents = 0;
 };
 
 inline OpponentTable opponentTable;
@@ -50,8 +50,8 @@ void ListOpponents();
 // a digit is a computer's, the digit its skill, what stands before it and the spaces its opponent.
 void PlayerKindFromName(int player);
 
-// Takes the number of players and their names from the preferences, with empty racks; player 1 is the
-// current one.
+// Takes the number of players and their names from the preferences; all racks are then empty, and player 1 is
+// the current one.
 void ReadPlayerSetUp();
 
 // Keeps the game's players for the next game and the next start.
@@ -64,7 +64,7 @@ void LoadOpponentData();
 // --- For choosing players ---
 
 // None when the opponent has no such picture. `opponent` is 0..20, `mood` 1..5.
-std::optional<Image> LoadOpponentPicture(int opponent, int mood);
+std::optional<Picture> LoadOpponentPicture(int opponent, int mood);
 
 // "Current word list", then the names of up to 100 word lists, sorted.
 std::vector<std::string> WordListChoices();
@@ -73,7 +73,7 @@ std::vector<std::string> WordListChoices();
 std::size_t WordListChoiceOf(int opponent, const std::vector<std::string>& choices);
 
 // Makes that choice (0-based) the opponent's own word list, in its folder. Does nothing for opponent 0, which
-// has none; warns when the folder is gone.
+// has none; warns when the folder is gone, or goes meanwhile.
 void SaveOpponentLexicon(int opponent, const std::vector<std::string>& choices, std::size_t choice);
 
 }  // namespace quillet

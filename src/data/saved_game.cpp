@@ -148,14 +148,15 @@ bool ReadScenario(LineReader& reader) {
 }
 
 void ReadLetters(LineReader& reader) {
-    GameSettings& settings = game.settings;
     reader.BeginLine();
-    settings.sevenLetterBonus = std::clamp<std::int32_t>(reader.ReadInteger(), 0, 999);
+    const std::int32_t bonus = reader.ReadInteger();
     reader.EndLine();
-    settings.letterValues =
-        LetterTableFromText<std::int32_t>(ReadCharactersLine(reader, kNumLetterCodes, "Bad letter values!"));
+    const std::string values = ReadCharactersLine(reader, kNumLetterCodes, "Bad letter values!");
     const std::string counts = ReadCharactersLine(reader, kNumLetterCodes, "Bad letter counts!");
     LeaveGame();
+    GameSettings& settings = game.settings;
+    settings.sevenLetterBonus = std::clamp<std::int32_t>(bonus, 0, 999);
+    settings.letterValues = LetterTableFromText<std::int32_t>(values);
     settings.letterCounts = LetterTableFromText<std::int16_t>(counts);
     FillBag();
 }

@@ -13,8 +13,8 @@ namespace quillet {
 bool SaveGame(std::string_view path);
 
 // Reads a game up to its first racks; OpenGameReplay then plays its moves. False after a warning. Faults up
-// to the scenario's name leave the game on the screen as it was. A later one leaves what was read before it,
-// and once the letters or the board were among that, no game is in play any more.
+// to the letter counts leave the game on the screen as it was, if it is one of that scenario. A later one
+// leaves what was read before it, and then no game is in play any more.
 //
 // What is read can be replayed without harm, but need not make a possible game. Fatal when the letters make
 // no playable set or a rack holds a tile that there is not.

@@ -10,6 +10,7 @@
 #include "base/presentation.h"
 #include "game/bag.h"
 #include "game/game_state.h"
+#include "store/bitmap_files.h"
 #include "store/item_store.h"
 #include "store/preferences.h"
 #include "words/bonus_words.h"
@@ -49,6 +50,8 @@ constexpr std::array kDefaultItems{
 };
 
 constexpr std::size_t kMostScenarios = 95;
+constexpr std::uint32_t kMostPictureBytes = 64 << 20;  // far more than a square's picture takes
+constexpr std::size_t kMostAboutCharacters = 255;      // that are saved
 constexpr BoardPosition kMiddle{8, 8};
 
 std::string_view ScenariosFolder() { return ResourceString(StringId::ScenariosFolder); }
@@ -96,35 +99,45 @@ BoardPosition NearestPlayable(BoardPosition wanted) {
 
 std::optional<std::vector<std::byte>> ReadWholeFile(std::string_view path) {
     FileRef file = OpenForReading(path);
-    if (!file) return std::nullopt;
+    if (!file || FileSize(*file) > kMostPictureBytes) return std::nullopt;
     std::vector<std::byte> bytes(FileSize(*file));
     const bool complete = ReadBlock(*file, bytes);
     CloseFile(std::move(file));
     return complete ? std::optional(std::move(bytes)) : std::nullopt;
 }
 
+// A source that cannot be read is passed over.
+void CopyPictureFile(std::string_view from, std::string_view to) {
+    const auto bytes = ReadWholeFile(from);
+    if (!bytes) return;
+    FileRef file = CreateForWriting(to);
+    if (!file) {
+        Warning("Couldn't create bitmap file: ", to);
+        return;
+    }
+    WriteBlock(*file, *bytes);
+    CloseFile(std::move(file));
+}
+
 void CopyDefaultPictures(std::string_view folder) {
     for (SquareKind kind = 0; kind < kSquareKinds.size(); ++kind) {
         const std::string name = SquarePictureName(kind);
-        const auto bytes = ReadWholeFile(PathIn(ResourceString(StringId::GraphicsFolder), name));
-        if (!bytes) continue;
-        const FilePath path = PathIn(folder, name);
-        FileRef file = CreateForWriting(path);
-        if (!file) {
-            Warning("Couldn't create bitmap file: ", path);
-            continue;
-        }
-        WriteBlock(*file, *bytes);
-        CloseFile(std::move(file));
+        const FilePath from = PathIn(ResourceString(StringId::GraphicsFolder), name);
+        const FilePath to = PathIn(folder, name);
+        CopyPictureFile(from, to);
+        CopyPictureFile(PathOfTwin(from), PathOfTwin(to));
     }
 }
 
 }  // namespace
 
 std::vector<std::string> ListScenarios() {
+    if (!FolderExists(ScenariosFolder())) {
+        Fatal("Sorry, but the ", ScenariosFolder(), " folder is missing!");
+    }
     auto listed = ListSubfolders(ScenariosFolder());
-    if (!listed && FolderExists(ScenariosFolder())) Fatal("FindFirstFile failed!");
-    std::vector<std::string> names = std::move(listed).value_or(std::vector<std::string>{});
+    if (!listed) Fatal("FindFirstFile failed!");
+    std::vector<std::string> names = *std::move(listed);
     std::erase_if(names, [](const std::string& name) { return name.size() > ScenarioName::capacity(); });
     if (names.empty()) Fatal("Sorry, but there are no scenarios!");
     if (names.size() > kMostScenarios) names.resize(kMostScenarios);
@@ -251,15 +264,16 @@ bool SaveBonusWords() {
     return WriteBonusWords(ScenarioFolder(CurrentScenario()));
 }
 
-std::optional<AboutText> ReadAboutText() {
-    if (OpenScenario(Purpose::Reading)) return ReadItemText<255>(scenarioStore, kAboutItem);
+std::optional<std::string> ReadAboutText() {
+    std::array<char, 256> text{};
+    if (OpenScenario(Purpose::Reading)) return std::string(ReadItem(scenarioStore, kAboutItem, text));
     Warning("Could not open scenario: ", "\"", CurrentScenario(), "\"");
     return std::nullopt;
 }
 
 bool SaveAboutText(std::string_view text) {
     if (!OpenForChanging()) return false;
-    WriteItemText(scenarioStore, kAboutItem, AboutText(text));
+    WriteItemText(scenarioStore, kAboutItem, text.substr(0, kMostAboutCharacters));
     return true;
 }
 

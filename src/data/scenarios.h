@@ -20,7 +20,6 @@
 namespace quillet {
 
 using ScenarioName = Text<31>;
-using AboutText = Text<255>;
 
 struct Scenario {
     WordListName requestedWordList;  // without extension; empty: any will do
@@ -28,7 +27,8 @@ struct Scenario {
 
 inline Scenario scenario;
 
-// The names of the scenarios there are, sorted; at most 95, names that are too long left out. None: Fatal.
+// The names of the scenarios there are, sorted; at most 95, names that are too long left out. Fatal when
+// there are none, or not even their folder.
 std::vector<std::string> ListScenarios();
 
 const ScenarioName& CurrentScenario();
@@ -83,8 +83,9 @@ bool SaveScenarioLetters();
 bool SaveScenarioBoard(bool picturesChanged);
 bool SaveBonusWords();  // value, switch and words
 
-// What the scenario says about itself. None, with a warning, when it cannot be opened.
-std::optional<AboutText> ReadAboutText();
+// What the scenario says about itself, up to 256 characters; CR LF ends a line. None, with a warning, when it
+// cannot be opened. The first 255 characters are saved.
+std::optional<std::string> ReadAboutText();
 bool SaveAboutText(std::string_view text);
 
 }  // namespace quillet

@@ -30,6 +30,7 @@ struct StatisticsTotals {
     OneBased<PlayerTotals, kMaxPlayers> players{};  // as many as the game has
 };
 
+// The file's name in its folder is the MatchName.
 bool StatisticsFileExists(std::string_view matchName);
 
 // The totals of the file of that MatchName, for as many players as the game has. None when it cannot be

@@ -97,6 +97,9 @@ struct Message {
 // Takes one waiting message; none when none waits. While a menu is open it waits until that is closed.
 std::optional<Message> PeekMessage();
 
+// The same as the person's closing the window.
+void RequestClose();
+
 // Sleeps until a message waits, at most that long.
 void WaitForMessage(std::uint32_t maxMilliseconds);
 constexpr std::uint32_t kForever = 0xFFFFFFFF;

@@ -32,20 +32,21 @@ constexpr int kTextWidth = 60;  // of a text to read
 
 constexpr std::array kHelp{
     Label("&Topic:", {0, 0}),
-    ControlTemplate{.id = HelpDialog::kTopic, .kind = Kind::DropDown, .cell = {0, 1}, .width = kLongestName},
+    ControlTemplate{
+        .id = HelpControls::kTopic, .kind = Kind::DropDown, .cell = {0, 1}, .width = kLongestName},
     Label("Te&xt:", {1, 0}),
     ControlTemplate{
-        .id = HelpDialog::kText, .kind = Kind::ReadOnlyText, .cell = {1, 1}, .width = 80, .height = 24},
+        .id = HelpControls::kText, .kind = Kind::ReadOnlyText, .cell = {1, 1}, .width = 80, .height = 24},
     Ok(),
 };
 
 // --- Players ---
 
-using Players = PlayersDialog;
+using Players = PlayersControls;
 
 // The controls of a row in the grid's row below the one of that number. The name takes the place of the
 // skill.
-constexpr std::array<ControlTemplate, 9> PlayerControls(int row, std::string_view label) {
+constexpr std::array<ControlTemplate, 9> ControlsOfPlayer(int row, std::string_view label) {
     const auto id = [row](Players::Id control) { return Players::InRow(control, row); };
     const auto hiddenLabel = [&](Players::Id control, std::string_view text, int column) {
         return ControlTemplate{.id = id(control), .text = text, .cell = {row, column}};
@@ -79,8 +80,8 @@ constexpr auto Joined(const std::array<ControlTemplate, N>& first,
 
 constexpr auto kChoosePlayersControls =
     Joined(std::array{Label("Choose from 1 to 4 players.", {0, 0, 1, 7})},  //
-           PlayerControls(1, "Player &1:"), PlayerControls(2, "Player &2:"), PlayerControls(3, "Player &3:"),
-           PlayerControls(4, "Player &4:"),
+           ControlsOfPlayer(1, "Player &1:"), ControlsOfPlayer(2, "Player &2:"),
+           ControlsOfPlayer(3, "Player &3:"), ControlsOfPlayer(4, "Player &4:"),
            std::array{Label("Note:  Computer players have a skill level ranging from 9 (expert) down to 0 "
                             "(novice).",
                             {5, 0, 1, 7}),
@@ -88,23 +89,23 @@ constexpr auto kChoosePlayersControls =
 
 constexpr auto kChangePlayerControls =
     Joined(std::array{Label("Change this player (without starting a new game).", {0, 0, 1, 7})},
-           PlayerControls(1, "&Player:"), std::array{Ok(), Cancel()});
+           ControlsOfPlayer(1, "&Player:"), std::array{Ok(), Cancel()});
 
 // --- Words ---
 
 constexpr std::array kBlankLetter{
     Label("Type in a &letter for the selected blank.", {0, 0}),
-    Edit(BlankLetterDialog::kLetter, {1, 0}, 2),
+    Edit(BlankLetterControls::kLetter, {1, 0}, 2),
     Ok(),
     Cancel(),
 };
 
 constexpr std::array kDefineWord{
     Label("&Word:", {0, 0}),
-    Edit(DefineWordDialog::kWord, {0, 1}, kLongestName),
+    Edit(DefineWordControls::kWord, {0, 1}, kLongestName),
     ControlTemplate{.id = kOkId, .kind = Kind::DefaultButton, .text = "&Define", .cell = {0, 2}},
     Label("&Meaning:", {1, 0}),
-    ControlTemplate{.id = DefineWordDialog::kText,
+    ControlTemplate{.id = DefineWordControls::kText,
                     .kind = Kind::ReadOnlyText,
                     .cell = {1, 1, 1, 2},
                     .width = kTextWidth,
@@ -113,7 +114,7 @@ constexpr std::array kDefineWord{
 };
 
 constexpr ControlTemplate StatusLabel(int line) {
-    return {.id = StatusDialog::kLine1 + line - 1, .cell = {line - 1, 0}, .width = kTextWidth};
+    return {.id = StatusControls::kLine1 + line - 1, .cell = {line - 1, 0}, .width = kTextWidth};
 }
 
 // The bar takes the place of line 4.
@@ -123,20 +124,20 @@ constexpr std::array kStatus{
     StatusLabel(3),
     StatusLabel(4),
     ControlTemplate{
-        .id = StatusDialog::kProgress, .kind = Kind::Progress, .cell = {3, 0}, .width = kTextWidth},
+        .id = StatusControls::kProgress, .kind = Kind::Progress, .cell = {3, 0}, .width = kTextWidth},
     Cancel(),
 };
 
-constexpr std::array<ControlTemplate, 4> NameControls(std::string_view prompt, std::string_view button) {
-    return {Label(prompt, {0, 0}), Edit(NameDialog::kName, {1, 0}, kLongestName), Ok(button), Cancel()};
+constexpr std::array<ControlTemplate, 4> AskForName(std::string_view prompt, std::string_view button) {
+    return {Label(prompt, {0, 0}), Edit(NameControls::kName, {1, 0}, kLongestName), Ok(button), Cancel()};
 }
-constexpr auto kNewWordListControls = NameControls("Enter a &name for the new word list:", "Create");
-constexpr auto kSaveWordListAsControls = NameControls("Save the &current word list as:", "Save");
-constexpr auto kNewScenarioControls = NameControls("Enter a &name for the new scenario:", "Create");
+constexpr auto kNewWordListControls = AskForName("Enter a &name for the new word list:", "Create");
+constexpr auto kSaveWordListAsControls = AskForName("Save the &current word list as:", "Save");
+constexpr auto kNewScenarioControls = AskForName("Enter a &name for the new scenario:", "Create");
 
 // The word box with its buttons beside the list, from the grid's row `row` on. Enter finds the word.
-constexpr std::array<ControlTemplate, 7> WordEditorControls(int row) {
-    using Editor = WordEditorDialog;
+constexpr std::array<ControlTemplate, 7> WordAndList(int row) {
+    using Editor = WordEditorControls;
     return {
         Label("&Word:", {row, 0}),
         Edit(Editor::kWord, {row, 1}, 17),
@@ -156,26 +157,27 @@ constexpr std::array<ControlTemplate, 7> WordEditorControls(int row) {
 
 constexpr auto kEditWordList =
     Joined(std::array{Label("Total words =", {0, 0}),
-                      ControlTemplate{.id = WordEditorDialog::kTotal, .cell = {0, 1}}},
-           WordEditorControls(1),
-           std::array{Button(WordEditorDialog::kDefine, "D&efine", {5, 1}),
+                      ControlTemplate{.id = WordEditorControls::kTotal, .cell = {0, 1}}},
+           WordAndList(1),
+           std::array{Button(WordEditorControls::kDefine, "D&efine", {5, 1}),
                       Button(kOkId, "OK", {.row = kButtonRow, .column = 0}), Cancel()});
 
-constexpr auto kEditBonusWords = Joined(
-    std::array{Check(WordEditorDialog::kEnabled, "&Enabled", {0, 0, 1, 2}), Label("Bonus &points =", {1, 0}),
-               Edit(WordEditorDialog::kPoints, {1, 1}, 8), Label("Bonus words =", {2, 0}),
-               ControlTemplate{.id = WordEditorDialog::kTotal, .cell = {2, 1}}},
-    WordEditorControls(3), std::array{Button(kOkId, "&Save", {.row = kButtonRow, .column = 0}), Cancel()});
+constexpr auto kEditBonusWords =
+    Joined(std::array{Check(WordEditorControls::kEnabled, "&Enabled", {0, 0, 1, 2}),
+                      Label("Bonus &points =", {1, 0}), Edit(WordEditorControls::kPoints, {1, 1}, 8),
+                      Label("Bonus words =", {2, 0}),
+                      ControlTemplate{.id = WordEditorControls::kTotal, .cell = {2, 1}}},
+           WordAndList(3), std::array{Button(kOkId, "&Save", {.row = kButtonRow, .column = 0}), Cancel()});
 
 // --- Timer ---
 
 constexpr std::array kTimer{
-    Check(TimerDialog::kEnabled, "Timer &enabled", {0, 0, 1, 3}),
+    Check(TimerControls::kEnabled, "Timer &enabled", {0, 0, 1, 3}),
     Label("Time &limit:", {1, 0}),
-    Edit(TimerDialog::kTimeLimit, {1, 1}, 7),
+    Edit(TimerControls::kTimeLimit, {1, 1}, 7),
     Label("minutes", {1, 2}),
     Label("&Penalty:", {2, 0}),
-    Edit(TimerDialog::kTimePenalty, {2, 1}, 7),
+    Edit(TimerControls::kTimePenalty, {2, 1}, 7),
     Label("points per minute", {2, 2}),
     Ok(),
     Cancel(),
@@ -185,18 +187,18 @@ constexpr std::array kTimer{
 
 constexpr std::array kAboutScenario{
     Label("&Text:", {0, 0}),
-    ControlTemplate{.id = AboutScenarioDialog::kText,
+    ControlTemplate{.id = AboutScenarioControls::kText,
                     .kind = Kind::ReadOnlyText,
                     .cell = {1, 0},
                     .width = kTextWidth,
                     .height = 7},
-    Check(AboutScenarioDialog::kAutoShow, "&Auto show", {2, 0}),
+    Check(AboutScenarioControls::kAutoShow, "&Auto show", {2, 0}),
     Ok(),
 };
 
 constexpr std::array kEditAboutText{
     Label("&Text:", {0, 0}),
-    ControlTemplate{.id = EditAboutTextDialog::kText,
+    ControlTemplate{.id = EditAboutTextControls::kText,
                     .kind = Kind::TextBox,
                     .cell = {1, 0},
                     .width = kTextWidth,
@@ -206,13 +208,13 @@ constexpr std::array kEditAboutText{
 };
 
 constexpr std::array kEditScenario{
-    ControlTemplate{.id = EditScenarioDialog::kBoard,
+    ControlTemplate{.id = EditScenarioControls::kBoard,
                     .kind = Kind::DefaultButton,
                     .text = "Edit &Board...",
                     .cell = {0, 0}},
-    Button(EditScenarioDialog::kLetters, "Edit &Letters...", {1, 0}),
-    Button(EditScenarioDialog::kAboutText, "Edit &About Text...", {2, 0}),
-    Button(EditScenarioDialog::kBonusWords, "Edit Bonus &Words...", {3, 0}),
+    Button(EditScenarioControls::kLetters, "Edit &Letters...", {1, 0}),
+    Button(EditScenarioControls::kAboutText, "Edit &About Text...", {2, 0}),
+    Button(EditScenarioControls::kBonusWords, "Edit Bonus &Words...", {3, 0}),
     Cancel(),
 };
 
@@ -220,28 +222,28 @@ constexpr std::array kEditScenario{
 
 constexpr std::array kAbout{
     ControlTemplate{
-        .id = AboutDialog::kIcon, .kind = Kind::Picture, .cell = {0, 0}, .width = 48, .height = 48},
+        .id = AboutControls::kIcon, .kind = Kind::Picture, .cell = {0, 0}, .width = 48, .height = 48},
     Label("Quillet 1.0", {0, 1}),
     Ok(),
 };
 
 }  // namespace
 
-constexpr DialogTemplate HelpDialog::kTemplate{"Quillet Help", kHelp};
-constexpr DialogTemplate PlayersDialog::kChoosePlayers{"Choose Players", kChoosePlayersControls};
-constexpr DialogTemplate PlayersDialog::kChangePlayer{"Change One Player", kChangePlayerControls};
-constexpr DialogTemplate BlankLetterDialog::kTemplate{"Quillet", kBlankLetter};
-constexpr DialogTemplate TimerDialog::kTemplate{"Timer Settings", kTimer};
-constexpr DialogTemplate DefineWordDialog::kTemplate{"Define Word", kDefineWord};
-constexpr DialogTemplate StatusDialog::kTemplate{"Status", kStatus};
-constexpr DialogTemplate NameDialog::kNewWordList{"New Word List", kNewWordListControls};
-constexpr DialogTemplate NameDialog::kSaveWordListAs{"Save As", kSaveWordListAsControls};
-constexpr DialogTemplate NameDialog::kNewScenario{"New Scenario", kNewScenarioControls};
-constexpr DialogTemplate WordEditorDialog::kWordList{"", kEditWordList};
-constexpr DialogTemplate WordEditorDialog::kBonusWords{"Edit Bonus Words", kEditBonusWords};
-constexpr DialogTemplate AboutScenarioDialog::kTemplate{"About Scenario", kAboutScenario};
-constexpr DialogTemplate EditAboutTextDialog::kTemplate{"Edit About Text", kEditAboutText};
-constexpr DialogTemplate EditScenarioDialog::kTemplate{"Edit Scenario", kEditScenario};
-constexpr DialogTemplate AboutDialog::kTemplate{"About Quillet", kAbout};
+constexpr DialogTemplate HelpControls::kTemplate{"Quillet Help", kHelp};
+constexpr DialogTemplate PlayersControls::kChoosePlayers{"Choose Players", kChoosePlayersControls};
+constexpr DialogTemplate PlayersControls::kChangePlayer{"Change One Player", kChangePlayerControls};
+constexpr DialogTemplate BlankLetterControls::kTemplate{"Quillet", kBlankLetter};
+constexpr DialogTemplate TimerControls::kTemplate{"Timer Settings", kTimer};
+constexpr DialogTemplate DefineWordControls::kTemplate{"Define Word", kDefineWord};
+constexpr DialogTemplate StatusControls::kTemplate{"Status", kStatus};
+constexpr DialogTemplate NameControls::kNewWordList{"New Word List", kNewWordListControls};
+constexpr DialogTemplate NameControls::kSaveWordListAs{"Save As", kSaveWordListAsControls};
+constexpr DialogTemplate NameControls::kNewScenario{"New Scenario", kNewScenarioControls};
+constexpr DialogTemplate WordEditorControls::kWordList{"", kEditWordList};
+constexpr DialogTemplate WordEditorControls::kBonusWords{"Edit Bonus Words", kEditBonusWords};
+constexpr DialogTemplate AboutScenarioControls::kTemplate{"About Scenario", kAboutScenario};
+constexpr DialogTemplate EditAboutTextControls::kTemplate{"Edit About Text", kEditAboutText};
+constexpr DialogTemplate EditScenarioControls::kTemplate{"Edit Scenario", kEditScenario};
+constexpr DialogTemplate AboutControls::kTemplate{"About Quillet", kAbout};
 
 }  // namespace quillet

@@ -27,6 +27,7 @@
 #include "resources/menus.h"
 #include "shell/help.h"
 #include "shell/menus.h"
+#include "store/files.h"
 #include "store/preferences.h"
 #include "view/main_window.h"
 #include "view/render.h"
@@ -112,16 +113,16 @@ void NewScenarioCommand() {
 }
 
 void EditScenarioCommand() {
-    switch (EditScenarioDialog()) {
-        case ScenarioPart::Board:
+    switch (ChooseScenarioPart()) {
+        case ScenarioPart::BoardPart:
             if (ConfirmCancel()) OpenBoardEditor();
             return;
-        case ScenarioPart::Letters:
+        case ScenarioPart::LettersPart:
             if (ConfirmCancel() && EditLetterInfo()) NewGame(true);
             return;
-        case ScenarioPart::AboutText:
+        case ScenarioPart::AboutPart:
             return EditAboutText();
-        case ScenarioPart::BonusWords:
+        case ScenarioPart::BonusPart:
             EditBonusWords();
             return RedrawPanels();
         case ScenarioPart::None:
@@ -158,6 +159,18 @@ void FlipShowLetters() {
 void FlipTellComputer() {
     FlipPreference(&Preferences::tellComputerToMove);
     ShowMoveButtonPlainly();
+}
+
+void SwitchSaveStatistics() {
+    const std::string folder(ResourceString(StringId::StatisticsFolder));
+    if (!preferences.saveStatistics && !FolderExists(folder)) {
+        return Warning("The ", folder, " folder is missing!");
+    }
+    FlipPreference(&Preferences::saveStatistics);
+    if (!preferences.saveStatistics) return;
+    ShowMessageBox(BoxKind::Information, ResourceString(StringId::ProgramTitle),
+                   "Game statistics will be saved in a file called \"" + std::string(MatchName().View()) +
+                       "\" in the " + folder + " folder.");
 }
 
 void FlipHints() {

@@ -9,20 +9,20 @@ namespace quillet {
 namespace {
 
 void FillHelp(Dialog& dialog, int topic) {
-    SetLines(dialog, HelpDialog::kTopic, helpTopics.size(),
+    SetLines(dialog, HelpControls::kTopic, helpTopics.size(),
              [](std::size_t line) { return std::string(helpTopics[line]); });
-    SetChoice(dialog, HelpDialog::kTopic, topic);
+    SetChoice(dialog, HelpControls::kTopic, topic);
 }
 
 void ShowTopic(Dialog& dialog, int topic) {
-    SetControlText(dialog, HelpDialog::kText, HelpText(helpTopics[static_cast<std::size_t>(topic)]));
+    SetControlText(dialog, HelpControls::kText, HelpText(helpTopics[static_cast<std::size_t>(topic)]));
 }
 
 // Takes over the topic chosen in the list, unless that is a line between topics.
 void ChangeTopic(Dialog& dialog, int& topic) {
-    const int chosen = Choice(dialog, HelpDialog::kTopic);
+    const int chosen = Choice(dialog, HelpControls::kTopic);
     if (chosen < 0 || IsSeparator(helpTopics[static_cast<std::size_t>(chosen)])) {
-        SetChoice(dialog, HelpDialog::kTopic, topic);
+        SetChoice(dialog, HelpControls::kTopic, topic);
         return;
     }
     topic = chosen;
@@ -37,7 +37,7 @@ void ShowHelp(int number) {
         return;
     }
     int topic = number - 1;  // 0-based, as the list's lines
-    RunDialog(HelpDialog::kTemplate, [&](Dialog& dialog, const DialogEvent& event) {
+    RunDialog(HelpControls::kTemplate, [&](Dialog& dialog, const DialogEvent& event) {
         if (event.kind == DialogEvent::Kind::Opened) {
             FillHelp(dialog, topic);
             ShowTopic(dialog, topic);

@@ -1,5 +1,7 @@
 #include "shell/main_loop.h"
 
+#include <utility>
+
 #include "base/idle_pump.h"
 #include "base/messages.h"
 #include "base/presentation.h"
@@ -19,6 +21,7 @@
 #include "store/preferences.h"
 #include "view/graphics.h"
 #include "view/main_window.h"
+#include "view/palette.h"
 #include "view/render.h"
 #include "view/tile_interaction.h"
 #include "words/word_list_file.h"
@@ -138,7 +141,6 @@ bool ComputerIsToMove() {
 
 void StartModules() {
     SeedRandomFromClock();
-    OpenPreferencesFolder();
     LoadPreferences();
     SetCurrentScenario(preferences.scenario);
     wordList.current = preferences.wordList;
@@ -151,6 +153,14 @@ void ShowSplashForAWhile() {
         if (!ShowRetryBox(ResourceString(StringId::ProgramTitle), "Too many clocks or timers!"))
             throw ProgramEnd{};
     }
+}
+
+// Only a file with the saved games' extension is opened.
+bool IsSavedGame(std::string_view path) {
+    constexpr std::size_t kMostCharacters = 260;
+    const std::size_t dot = path.rfind('.');
+    return dot != std::string_view::npos && path.size() <= kMostCharacters &&
+           EqualIgnoringCase(path.substr(dot), ".qlg");
 }
 
 void LoadPreferredWordList() {
@@ -173,8 +183,8 @@ void StartProgram(const RunOptions& options) {
     ShowWaitCursor();
     ShowSplashForAWhile();
     pump.idleHook = IdlePump;
-    const bool opened = !options.savedGame.empty() && OpenGameFile(options.savedGame);
-    if (!opened || !WordListIsLoaded()) LoadPreferredWordList();
+    if (IsSavedGame(options.savedGame)) OpenGameFile(options.savedGame);
+    if (!wordList.loaded) LoadPreferredWordList();
 }
 
 bool RunOnce() {

@@ -190,7 +190,8 @@ void BuildWordsMenu() {
         names.emplace_back(wordList.current);
     }
     menus.wordLists.Replace(std::move(names));
-    if (!menus.wordLists.Lists(wordList.current)) wordList.current = menus.wordLists.names.front();
+    if (!menus.wordLists.Lists(wordList.current))
+        wordList.current = WordListName(menus.wordLists.names.front());
 }
 
 std::string ScenarioOf(int command) { return menus.scenarios.NameOf(command); }

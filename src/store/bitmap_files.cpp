@@ -20,6 +20,7 @@ constexpr std::string_view kNotOpened = "Could not open bitmap file: ";
 constexpr std::string_view kBadHeader = "Could not read bitmap header: ";
 constexpr std::string_view kNoMemory = "Not enough memory to load bitmap: ";
 constexpr std::string_view kIncomplete = "Did not read all of bitmap: ";
+constexpr std::string_view kNotSaved = "Couldn't save bitmap file: ";
 
 constexpr std::size_t kFileHeaderSize = 14;
 constexpr std::size_t kInfoHeaderSize = 40;
@@ -255,6 +256,22 @@ std::optional<Image> Load(std::string_view path, bool reportMissing) {
     return std::nullopt;
 }
 
+FilePath GraphicsPath(std::string_view fileName) {
+    FilePath path(ResourceString(StringId::GraphicsFolder));
+    path.Append('\\');
+    path.Append(fileName);
+    return path;
+}
+
+std::optional<Picture> WithTwin(std::optional<Image>&& image, std::string_view path) {
+    if (!image) return std::nullopt;
+    Picture picture(*std::move(image));
+    std::optional<Image> twin = LoadBitmapFile(PathOfTwin(path));
+    const bool fits = twin && twin->width == 2 * picture.Width() && twin->height == 2 * picture.Height();
+    if (fits) picture.doubled = std::move(twin);
+    return picture;
+}
+
 // --- Writing ---
 
 struct ByteWriter {
@@ -297,18 +314,31 @@ ByteWriter Written(const Image& image) {
 }  // namespace
 
 std::optional<Image> LoadGraphicsBitmap(std::string_view fileName) {
-    FilePath path(ResourceString(StringId::GraphicsFolder));
-    path.Append('\\');
-    path.Append(fileName);
-    return Load(path, true);
+    return Load(GraphicsPath(fileName), true);
 }
 
 std::optional<Image> LoadBitmapFile(std::string_view path) { return Load(path, false); }
 
+std::optional<Picture> LoadGraphicsPicture(std::string_view fileName) {
+    return WithTwin(LoadGraphicsBitmap(fileName), GraphicsPath(fileName));
+}
+
+std::optional<Picture> LoadPicture(std::string_view path) { return WithTwin(LoadBitmapFile(path), path); }
+
+FilePath PathOfTwin(std::string_view path) {
+    const std::size_t name = path.find_last_of("\\/") + 1;  // 0 when there is no folder
+    const std::size_t dot = path.rfind('.');
+    const bool hasExtension = dot != std::string_view::npos && dot >= name;
+    FilePath twin(path.substr(0, hasExtension ? dot : path.size()));
+    twin.Append("@2x");
+    if (hasExtension) twin.Append(path.substr(dot));
+    return twin;
+}
+
 bool SaveBitmapFile(const Image& image, std::string_view path) {
     FileRef file = CreateForWriting(path);
     if (!file) {
-        Warning("Couldn't save bitmap file: ", path);
+        Warning(kNotSaved, path);
         return false;
     }
     try {
@@ -318,6 +348,15 @@ bool SaveBitmapFile(const Image& image, std::string_view path) {
         return false;
     }
     return CloseFile(std::move(file));
+}
+
+bool SavePicture(const Picture& picture, std::string_view path) {
+    const FilePath twin = PathOfTwin(path);
+    if (!SaveBitmapFile(picture.image, path)) return false;
+    if (picture.doubled) return SaveBitmapFile(*picture.doubled, twin);
+    if (RemoveFile(twin)) return true;
+    Warning(kNotSaved, twin);
+    return false;
 }
 
 }  // namespace quillet

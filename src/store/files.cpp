@@ -239,6 +239,8 @@ std::optional<std::string> SystemPath(std::string_view path) {
     return place ? std::optional(place->string()) : std::nullopt;
 }
 
+std::string SystemName(std::string_view name) { return Utf8FromLatin1(name); }
+
 bool FolderExists(std::string_view path) { return fs::is_directory(StatusOf(path)); }
 
 bool FileExists(std::string_view path) {
@@ -254,6 +256,12 @@ std::optional<FileStamp> StampOf(std::string_view path) {
     if (!place || stat(place->c_str(), &status) != 0) return std::nullopt;
     return FileStamp{status.st_ino, status.st_size,
                      status.st_ctim.tv_sec * std::int64_t{1'000'000'000} + status.st_ctim.tv_nsec};
+}
+
+bool RemoveFile(std::string_view path) {
+    if (!FileExists(path)) return true;
+    std::error_code error;
+    return fs::remove(*Locate(path), error);
 }
 
 bool CreateFolder(std::string_view path) {

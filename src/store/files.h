@@ -44,10 +44,14 @@ const std::string& DataFolder();
 
 // The file system's own name for a path; none for one that cannot lie anywhere. Nothing need be there.
 std::optional<std::string> SystemPath(std::string_view path);
+std::string SystemName(std::string_view name);  // likewise for a name without a folder
 
 bool FolderExists(std::string_view path);
 bool FileExists(std::string_view path);
 bool IsWritable(std::string_view path);  // a file that exists and may be changed
+
+// False when there still is such a file afterwards.
+bool RemoveFile(std::string_view path);
 
 // Makes a folder in one that exists. False when that cannot be done, or when it is already there.
 bool CreateFolder(std::string_view path);

@@ -1,9 +1,11 @@
 #include "words/bonus_words.h"
 
+#include <limits>
 #include <utility>
 
 #include "base/messages.h"
 #include "store/files.h"
+#include "store/numbers.h"
 
 namespace quillet {
 namespace {
@@ -23,6 +25,23 @@ void BuildBonusDict(const BonusWordTable& table) {
     for (const Word& word : table) {
         if (!IsProperWord(word) || !AddWord(bonusDict, word)) break;
     }
+}
+
+void TakeBonusWords() {
+    bonusWords = {};
+    for (std::int32_t n = 0; n < bonusDict.numwords; ++n) {
+        bonusWords[static_cast<std::size_t>(n)] = GetWord(bonusDict, n);
+    }
+}
+
+std::optional<std::int16_t> ReadBonusPoints(std::string_view typed) {
+    using Limits = std::numeric_limits<std::int16_t>;
+    const std::optional<std::int32_t> points = ParseInteger(typed);
+    if (points && *points >= Limits::min() && *points <= Limits::max()) {
+        return static_cast<std::int16_t>(*points);
+    }
+    Warning("Bad bonus points.");
+    return std::nullopt;
 }
 
 void LoadBonusWords(std::string_view scenarioFolder) {

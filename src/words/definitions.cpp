@@ -9,6 +9,7 @@
 #include <string>
 #include <utility>
 
+#include "base/messages.h"
 #include "platform/message_box.h"
 #include "resources/strings.h"
 #include "store/files.h"
@@ -17,6 +18,7 @@ namespace quillet {
 namespace {
 
 constexpr std::string_view kEmptyWord = "Type in a word and click on the Define button.";
+constexpr std::uint32_t kMostBytes = 64 << 20;  // of a file: one that is larger is no file of definitions
 constexpr std::string_view kNoMemory = "Not enough memory to load definitions!";
 constexpr std::string_view kNotReadable = "Could not read definitions!";
 constexpr std::string_view kNotFound =
@@ -39,10 +41,13 @@ FilePath PathForLetter(char letter) {
 // The whole file; empty, with the reason in `problem`, when it cannot be had.
 std::string ReadWhole(FileRef file, std::string_view& problem) {
     std::string contents;
+    const std::uint32_t size = FileSize(*file);
     try {
-        contents.resize(FileSize(*file));
+        if (size > kMostBytes) throw std::bad_alloc();
+        contents.resize(size);
     } catch (const std::bad_alloc&) {
         problem = kNoMemory;
+        return contents;
     }
     if (!ReadBlock(*file, std::as_writable_bytes(std::span(contents)))) {
         problem = kNotReadable;
@@ -171,6 +176,13 @@ std::optional<std::string_view> FindWordOrBaseForm(std::string_view contents, Ty
 }
 
 }  // namespace
+
+bool DefinitionsFolderExists() {
+    const std::string_view folder = ResourceString(StringId::DefinitionsFolder);
+    if (FolderExists(folder)) return true;
+    Warning("Sorry, the ", folder, " folder is missing.");
+    return false;
+}
 
 Definition LookUpDefinition(std::string_view typed) {
     Definition result;

@@ -19,6 +19,9 @@ struct Definition {
     Text<255> text;  // what to show: the definition, or why there is none; CR ends a line
 };
 
+// Are there definitions at all? Warns when not.
+bool DefinitionsFolderExists();
+
 // Beeps when the file is missing or cannot be read, but not when it merely lacks the word.
 Definition LookUpDefinition(std::string_view word);
 

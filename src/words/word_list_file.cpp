@@ -121,13 +121,18 @@ void ReplaceMainDict(Dict&& dict, const ReadState& state) {
     mainRevision = mainDict.revision;
 }
 
-}  // namespace
-
-std::vector<std::string> ListWordLists() {
+std::vector<std::string> NamesOfLists() {
     std::vector<std::string> names = ListFiles(FolderName(), kExtension);
     std::erase_if(names, [](const std::string& name) { return name.size() > WordListName::capacity(); });
     if (names.size() > kMostLists) names.resize(kMostLists);
     return names;
+}
+
+}  // namespace
+
+std::vector<std::string> ListWordLists() {
+    if (!FolderExists(FolderName())) Fatal("Sorry, but the ", FolderName(), " folder is missing!");
+    return NamesOfLists();
 }
 
 FilePath WordListPath(std::string_view name) {
@@ -178,6 +183,7 @@ bool LoadWordList(std::string_view name) {
         ReplaceMainDict(std::move(fresh), state);
     }
     wordList.current = loaded;
+    wordList.loaded = true;
     return true;
 }
 
@@ -212,7 +218,7 @@ bool ApplyScenarioWordList(WordListName& requested) {
         return true;
     }
     if (EqualIgnoringCase(requested, wordList.current)) return false;
-    const std::vector<std::string> names = ListWordLists();
+    const std::vector<std::string> names = NamesOfLists();
     const auto found = std::ranges::find_if(
         names, [&](const std::string& name) { return EqualIgnoringCase(name, requested); });
     if (found == names.end()) {

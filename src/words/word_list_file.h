@@ -19,12 +19,14 @@ using WordListName = Text<31>;
 
 struct WordListState {
     WordListName current;       // the list that mainDict holds
+    bool loaded = false;        // some list has been, since the program started
     bool fromScenario = false;  // it was chosen because the scenario asked for it, not by the user
 };
 
 inline WordListState wordList;
 
-// The names of the lists there are, sorted; at most 86, names that are too long left out.
+// The names of the lists there are, sorted; at most 86, names that are too long left out. Fatal when their
+// folder is missing.
 std::vector<std::string> ListWordLists();
 
 // The path of that list's file, with "\" between folder and name.

@@ -36,7 +36,7 @@ class Opponents : public TempFolder {
 
     static std::vector<std::string> Listed() {
         std::vector<std::string> names;
-        for (int i = 1; i <= opponentTable.count; ++i) {
+        for (int i = 1; i <= opponentTable.numOpponents; ++i) {
             names.emplace_back(opponentTable.entries[static_cast<std::size_t>(i)].name.View());
         }
         return names;
@@ -61,7 +61,9 @@ TEST_F(Opponents, WithoutTheirFolderThePlayersAreStillRead) {
     SetPlayers({"Ann", "Bo 7"});
     SavePlayers();
     game = FreshGameState();
+    for (Player& player : game.players) player.rack.positions[1] = 'A';
     ListOpponents();
+    for (const Player& player : game.players) EXPECT_EQ(player.rack.EmptyPosition(), 1);
     EXPECT_THAT(TakeMessages(), ElementsAre("The Opponents folder is missing!"));
     EXPECT_THAT(Listed(), IsEmpty());
     EXPECT_TRUE(game.numPlayers == 2 && game.players[1].name == "Ann" && game.players[2].skill == 7);
@@ -89,7 +91,7 @@ TEST_F(Opponents, OnlyThoseWhoPlayAreLoaded) {
     for (const char* name : {"Bo", "Pip"}) {
         WriteItem(name, 300, "Large");
         WriteItem(name, 203, "yellow");
-        SaveBitmapFile(Image(2, 1, kBlue), "Opponents\\" + std::string(name) + "\\9004.bmp");
+        SavePicture(Image(2, 1, kBlue), "Opponents\\" + std::string(name) + "\\9004.bmp");
     }
     MakeFolder("Opponents/Strix");
     ListOpponents();
@@ -98,7 +100,7 @@ TEST_F(Opponents, OnlyThoseWhoPlayAreLoaded) {
     EXPECT_EQ(Entry(1).lexicon, "") << "Bo does not play";
     EXPECT_EQ(Entry(2).lexicon, "Large");
     EXPECT_EQ(Entry(2).textColour, 0xFFFF00U);
-    EXPECT_EQ(Entry(2).pictures[4], Image(2, 1, kBlue));
+    EXPECT_EQ(Entry(2).pictures[4]->image, Image(2, 1, kBlue));
     EXPECT_FALSE(Entry(2).pictures[1]);
     EXPECT_EQ(Entry(2).voices[6], "Pip\\8006.wav");
     EXPECT_EQ(Entry(3).textColour, kWhite) << "an opponent without a colour";

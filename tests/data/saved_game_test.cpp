@@ -144,15 +144,20 @@ TEST_F(SavedGame, EachFaultIsReportedWithItsLine) {
 TEST_F(SavedGame, FailedLoadNeverLeavesHalfAGameInPlay) {
     CreateScenario("Other");
     SetCurrentScenario("My \"own\"");
-    for (const auto& [file, goesOn] : {std::pair{With(2, "Gone"), true},
-                                       {With(3, "x"), true},
-                                       {With(2, "Other", With(3, "x")), false},
-                                       {With(11, "\"Ada"), false},
-                                       {With(12, "x"), false}}) {
+    for (const auto& [file, goesOn] :
+         {std::pair{With(2, "Gone"), true},
+          {With(3, "x"), true},
+          {With(3, "7").substr(0, With(3, "7").find("letter counts") + 20), true},
+          {With(2, "Other", With(3, "x")), false},
+          {With(11, "\"Ada"), false},
+          {With(12, "x"), false}}) {
         StartGame({"Ada", "Bo"});
         const std::string before = GameText();
+        const LetterValues values = game.settings.letterValues = {};
+        const std::int32_t bonus = game.settings.sevenLetterBonus = 1;
         EXPECT_FALSE(Load(file));
         EXPECT_EQ(GameText() == before, goesOn);
+        EXPECT_EQ(game.settings.letterValues == values && game.settings.sevenLetterBonus == bonus, goesOn);
         EXPECT_EQ(game.IsRunning(), goesOn);
         EXPECT_GT(game.numPlayers, 0);
         EXPECT_EQ(game.statusLines[2] == "select a scenario.", !goesOn);

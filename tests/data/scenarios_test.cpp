@@ -70,8 +70,11 @@ TEST_F(Scenarios, NamesThatCannotBeAreRefusedAndTheOthersListed) {
     std::filesystem::remove_all(root / "Scenarios");
     EXPECT_FALSE(CheckScenariosFolder());
     EXPECT_THROW(ListScenarios(), ProgramEnd);
+    MakeFolder("Scenarios");
+    EXPECT_THROW(ListScenarios(), ProgramEnd);
     EXPECT_THAT(TakeMessages(),
-                ElementsAre("The Scenarios folder is missing!", "Sorry, but there are no scenarios!"));
+                ElementsAre("The Scenarios folder is missing!", "Sorry, but the Scenarios folder is missing!",
+                            "Sorry, but there are no scenarios!"));
 }
 
 TEST_F(Scenarios, OnlyOneOfOurVersionExists) {
@@ -115,7 +118,11 @@ TEST_F(Scenarios, WhatIsSavedIsLoaded) {
     LoadScenario();
     EXPECT_EQ(game.bounds, (BoardBounds{3, 13, 4, 12}));
     EXPECT_EQ(scenario.requestedWordList, "Common");
-    EXPECT_EQ(*ReadAboutText(), "It's\r\nme");
+    EXPECT_EQ(ReadAboutText(), "It's\r\nme");
+    SetItem(199, std::string(256, 'x') + "y");
+    EXPECT_EQ(ReadAboutText(), std::string(256, 'x'));
+    EXPECT_TRUE(SaveAboutText(std::string(256, 'x')));
+    EXPECT_EQ(Item(199), std::string(255, 'x'));
     EXPECT_TRUE(SaveScenarioLetters() && SaveScenarioBoard(false) && SaveBonusWords());
     EXPECT_EQ(items(), saved);
 }

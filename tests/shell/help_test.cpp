@@ -24,12 +24,12 @@ TEST_F(Help, ShowsTheTopicsTextAndThoseOfOthers) {
     bool wasShown = false;
     headlessWindow.dialogScripts = {[&](Dialog& dialog) {
         const auto shown = [&] {
-            return LineText(dialog, HelpDialog::kTopic) + ": " + ControlText(dialog, HelpDialog::kText);
+            return LineText(dialog, HelpControls::kTopic) + ": " + ControlText(dialog, HelpControls::kText);
         };
         EXPECT_EQ(shown(), "Scoring: Help file not found!");
-        ChooseLine(dialog, HelpDialog::kTopic, 0);
+        ChooseLine(dialog, HelpControls::kTopic, 0);
         EXPECT_EQ(shown(), "Playing: Lay tiles.");
-        ChooseLine(dialog, HelpDialog::kTopic, 1);  // a line between topics
+        ChooseLine(dialog, HelpControls::kTopic, 1);  // a line between topics
         EXPECT_EQ(shown(), "Playing: Lay tiles.");
         PressControl(dialog, kOkId);
         wasShown = dialog.result.has_value();

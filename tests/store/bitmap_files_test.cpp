@@ -151,6 +151,26 @@ TEST_F(BitmapFiles, SavedFileIsRowsFromTheBottomAndReadsBack) {
     EXPECT_THAT(TakeMessages(), ElementsAre("Couldn't save bitmap file: no\\such.bmp"));
 }
 
+TEST_F(BitmapFiles, APictureComesWithATwinOfTwiceItsSize) {
+    quillet::Picture picture(Image(2, 3, kRed));
+    picture.doubled = Image(4, 6, kGreen);
+    ASSERT_FALSE(SavePicture(picture, "a.b\\c.bmp"));
+    ASSERT_TRUE(SavePicture(picture, "c.bmp"));
+    EXPECT_THAT(TakeMessages(), ElementsAre("Couldn't save bitmap file: a.b\\c.bmp"));
+    EXPECT_EQ(LoadPicture("c.bmp")->doubled, Image(4, 6, kGreen));
+    EXPECT_EQ(PathOfTwin("a.b\\c"), "a.b\\c@2x");
+    for (const auto& [width, height] : {std::pair{4, 5}, {5, 6}, {2, 3}}) {
+        SaveBitmapFile(Image(width, height), "c@2x.bmp");
+        EXPECT_TRUE(LoadPicture("c.bmp")->image == picture.image && !LoadPicture("c.bmp")->doubled);
+    }
+    ASSERT_TRUE(SavePicture(Image(1, 1), "c.bmp"));
+    EXPECT_EQ(ReadFile("c@2x.bmp"), "<none>") << "the twin of another picture";
+    EXPECT_FALSE(LoadPicture("d.bmp"));
+    EXPECT_THAT(TakeMessages(), IsEmpty());
+    EXPECT_FALSE(LoadGraphicsPicture("d.bmp"));
+    EXPECT_THAT(TakeMessages(), ElementsAre("Could not open bitmap file: Data\\Graphics\\d.bmp"));
+}
+
 // Whatever stands in the file: a picture of the size that it says, or one warning.
 TEST_F(BitmapFiles, RandomDamageIsSurvived) {
     std::mt19937 random(7);

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <initializer_list>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -12,32 +14,33 @@
 
 namespace quillet {
 
-// The program in a data folder of its own, with the shipped pictures and scenarios, a small word list and
-// preferences as they are at the very first start.
+// The program in a data folder of its own: the shipped pictures, the scenarios "Standard" and "Quick Nine",
+// the word lists "Words" and "Common" (both the shipped Common list), the opponents Pip and Strix, and
+// preferences as they are at the very first start, but for tile clicks, which are off.
 class RunningProgram : public TempFolder {
   protected:
     RunningProgram();
     ~RunningProgram() override;
 
+    // Up to the loop, the splash gone.
     void Start(const std::string& savedGame = "");
-    void StartGame(std::string_view player1, std::string_view player2 = "");  // past the splash, board and racks as dealt
+    // Starts the program and a game of these players; player 1 begins.
+    void StartGame(std::initializer_list<std::string_view> names);
 
-    // Lets the program handle everything that waits, and sleep so many times.
+    // Lets the program handle everything that waits and then sleep, so many times.
     void Run(int times = 1);
 
-    bool HasEnded() const { return ended; }
-
-  private:
-    bool ended = false;
+    bool hasEnded = false;
 };
 
-// The person's hand. Points are in units of the client area.
+// The person's hand. Points are in units of the client area; what is done waits until the program runs.
 enum Held { kNothing = 0, kShift = 1, kControl = 2 };
+void Press(Point at, int held = kNothing, bool rightButton = false);
+void Release(Point at, std::uint32_t delay = 0);
 void Click(Point at, int held = kNothing, bool rightButton = false);
 void Drag(Point from, Point to, int held = kNothing);
-void TypeCharacters(std::string_view text);
+void TypeText(std::string_view characters);
 void PressKey(Key key);
-void Choose(int command);  // from the menus
 
 Point MiddleOf(const Rect& rect);
 Point MiddleOfSquare(int row, int col);

@@ -62,7 +62,7 @@ World::World() {
 }
 
 void World::MakeOpponent(const std::string& name, const std::string& lexicon) {
-    opponentTable.entries[static_cast<std::size_t>(++opponentTable.count)].name = Text<10>(name);
+    opponentTable.entries[static_cast<std::size_t>(++opponentTable.numOpponents)].name = Text<10>(name);
     WriteFile("Opponents/" + name + "/300.str", lexicon);
 }
 

@@ -78,6 +78,9 @@ TEST_F(Definitions, WithoutADefinitionTheTextSaysWhy) {
 TEST_F(Definitions, AnyFileIsSafeToLookInto) {
     WriteFile("Definitions/A.txt", "AB  one\nAC  two\nAD  three");
     for (const char* word : {"AB", "AC", "AD"}) EXPECT_TRUE(LookUpDefinition(word).found) << word;
+    std::filesystem::resize_file(root / "Definitions/A.txt", std::uintmax_t{6} << 30);
+    EXPECT_EQ(LookUpDefinition("AB").text, "Not enough memory to load definitions!");
+    EXPECT_EQ(headless.beeps, 1);
     std::mt19937 random(5);
     for (int round = 0; round < 300; ++round) {
         std::string contents;

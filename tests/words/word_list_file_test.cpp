@@ -184,6 +184,10 @@ TEST_F(WordListFile, ScenariosWishIsFollowedAndTakenBack) {
     WriteList("Own", EmptyFile());
     WriteList(std::string(32, 'x'), EmptyFile());
     EXPECT_THAT(ListWordLists(), ElementsAre("Own", "Small"));
+    SetDataFolder((root / "Word Lists").string());
+    EXPECT_THROW(ListWordLists(), ProgramEnd);
+    EXPECT_THAT(TakeMessages(), ElementsAre("Sorry, but the Word Lists folder is missing!"));
+    SetDataFolder(root.string());
     preferences.wordList = "Small";
     const std::tuple<const char*, bool, const char*> cases[] = {
         // the wish, whether a list is loaded, and which is in use then

@@ -85,6 +85,8 @@ void DeliverModelessEvents();
 
 // --- The rest ---
 
+QWidget* MainCanvas();  // of the main window; none before there is one
+
 // Gives the main window, if there is one, the menu bar of menu.cpp.
 void AttachMenuBar();
 QMenuBar* CurrentMenuBar();  // none before one is built; owned by the main window while there is one

@@ -21,10 +21,13 @@ int Run(Box& box) {
 
 void ShowMessageBox(BoxKind kind, std::string_view title, std::string_view text) {
     const bool isFatal = kind == BoxKind::Fatal;
-    Box box(isFatal ? QMessageBox::Critical : QMessageBox::Warning, ToQString(title), ToQString(text),
-            isFatal ? QMessageBox::NoButton : QMessageBox::Ok, DialogParent());
+    const auto icon = isFatal                    ? QMessageBox::Critical
+                      : kind == BoxKind::Warning ? QMessageBox::Warning
+                                                 : QMessageBox::Information;
+    Box box(icon, ToQString(title), ToQString(text), isFatal ? QMessageBox::NoButton : QMessageBox::Ok,
+            DialogParent());
     if (isFatal) box.addButton(QStringLiteral("Quit"), QMessageBox::AcceptRole);
-    Beep();
+    if (kind != BoxKind::Information) Beep();
     Run(box);
 }
 

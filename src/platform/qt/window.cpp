@@ -238,6 +238,8 @@ int RunModal(QDialog& dialog) {
 
 // --- The pointer ---
 
+QWidget* MainCanvas() { return state.window ? &state.window->CanvasArea() : nullptr; }
+
 Point PointerPosition() { return state.window ? state.window->CanvasArea().LastPointer() : Point{-1, -1}; }
 
 void CapturePointer() {

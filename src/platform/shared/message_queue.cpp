@@ -45,6 +45,8 @@ void PostMessage(const Message& message) {
     queue.messages.push_back(message);
 }
 
+void RequestClose() { PostMessage({.kind = Kind::CloseRequest}); }
+
 bool MessageWaits() { return !queue.messages.empty() || !queue.invalid.IsEmpty(); }
 
 std::optional<Message> TakeMessage() {

@@ -1,0 +1,8 @@
+// What the program is.
+#pragma once
+
+namespace quillet {
+
+void ShowAboutBox();
+
+}  // namespace quillet

@@ -1,0 +1,93 @@
+# Sourced by the end-to-end tests: a virtual display with a window manager, and a person's hand and eyes on it.
+# shellcheck shell=bash
+
+# start_desktop WIDTHxHEIGHT: a display of its own; it ends with the script.
+start_desktop() {
+    local number_file
+    work=$(mktemp -d)
+    number_file=$work/display
+    Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp 3>"$number_file" 2>"$work/xvfb.log" &
+    xvfb_pid=$!
+    trap 'kill "$xvfb_pid" 2>/dev/null; rm -rf "$work"' EXIT
+    wait_for 20 test -s "$number_file"
+    DISPLAY=:$(cat "$number_file")
+    export DISPLAY
+    export XDG_RUNTIME_DIR=$work QT_QPA_PLATFORM=xcb
+    openbox >"$work/openbox.log" 2>&1 &
+    wait_for 10 xdotool search --onlyvisible --name . || true
+}
+
+# wait_for SECONDS COMMAND...: until the command succeeds; false when it never did.
+wait_for() {
+    local tries=$(($1 * 20))
+    shift
+    while ((tries-- > 0)); do
+        "$@" >/dev/null 2>&1 && return 0
+        sleep 0.05
+    done
+    return 1
+}
+
+fail() {
+    echo "failed: $*" >&2
+    import -window root "${QUILLET_E2E_PICTURES:-$work}/failed.png" || true
+    exit 1
+}
+
+# start_quillet ARGUMENT...: starts the program on $data; leaves the window in $window and its canvas's corner.
+start_quillet() {
+    "$program" --data "$data" --zoom 1 "$@" >"$work/quillet.log" 2>&1 &
+    quillet_pid=$!
+    wait_for 20 find_window || fail "no window: $(cat "$work/quillet.log")"
+    sleep 2.3 # the splash
+    find_canvas
+}
+
+find_window() {
+    window=$(xdotool search --onlyvisible --name '^Quillet$' | tail -1)
+    [[ -n $window ]]
+}
+
+# The canvas lies at the bottom of the window, below the menu bar.
+find_canvas() {
+    eval "$(xdotool getwindowgeometry --shell "$window" | grep -E '^(X|Y|WIDTH|HEIGHT)=')"
+    canvas_width=$WIDTH
+    canvas_height=$((WIDTH == 660 ? 470 : 414))
+    canvas_x=$X
+    canvas_y=$((Y + HEIGHT - canvas_height))
+}
+
+point_at() { xdotool mousemove $((canvas_x + $1)) $((canvas_y + $2)) sleep 0.05; }
+click_at() { point_at "$1" "$2" && xdotool click "${3:-1}" sleep 0.15; }
+drag() {
+    point_at "$1" "$2"
+    xdotool mousedown 1 sleep 0.08
+    point_at $((($1 + $3) / 2)) $((($2 + $4) / 2))
+    point_at "$3" "$4"
+    xdotool mouseup 1 sleep 0.25
+}
+keys() { xdotool key --delay 60 "$@" sleep 0.2; }
+type_text() { xdotool type --delay 25 "$1" && sleep 0.2; }
+
+# dialog_is TITLE: waits until that dialog has the focus.
+dialog_is() { wait_for 5 has_focus "$1" || fail "no dialog \"$1\""; }
+has_focus() { [[ $(xdotool getactivewindow getwindowname) == "$1" ]]; }
+
+picture() { # NAME: of the window, kept when a folder for pictures is named
+    [[ -z ${QUILLET_E2E_PICTURES:-} ]] && return
+    import -window root -crop "${canvas_width}x${canvas_height}+$canvas_x+$canvas_y" +repage \
+        "$QUILLET_E2E_PICTURES/$1.png"
+}
+
+# colour_at X Y: "RRGGBB" of a point of the canvas.
+colour_at() {
+    import -window root -crop "1x1+$((canvas_x + $1))+$((canvas_y + $2))" +repage -depth 8 txt:- |
+        grep -oE '#[0-9A-F]{6}' | tail -1 | cut -c2-
+}
+
+# is_tile X Y: does the corner of that square show a tile's light edge?
+is_light() {
+    local colour
+    colour=$(colour_at "$1" "$2")
+    ((16#${colour:0:2} > 200 && 16#${colour:2:2} > 190))
+}
