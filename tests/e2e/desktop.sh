@@ -8,7 +8,7 @@ start_desktop() {
     number_file=$work/display
     Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp 3>"$number_file" 2>"$work/xvfb.log" &
     xvfb_pid=$!
-    trap 'kill "$xvfb_pid" 2>/dev/null; rm -rf "$work"' EXIT
+    trap 'kill -9 ${quillet_pid:-} 2>/dev/null; kill "$xvfb_pid" 2>/dev/null; rm -rf "$work"' EXIT
     wait_for 20 test -s "$number_file"
     DISPLAY=:$(cat "$number_file")
     export DISPLAY
@@ -39,6 +39,7 @@ start_quillet() {
     "$program" --data "$data" --zoom 1 "$@" >"$work/quillet.log" 2>&1 &
     quillet_pid=$!
     wait_for 20 find_window || fail "no window: $(cat "$work/quillet.log")"
+    wait_for 20 is_painted || fail "nothing is painted"
     sleep 2.3 # the splash
     find_canvas
 }
@@ -48,13 +49,19 @@ find_window() {
     [[ -n $window ]]
 }
 
+is_painted() {
+    find_canvas
+    [[ $(colour_at 30 300) != 000000 ]]
+}
+
 # The canvas lies at the bottom of the window, below the menu bar.
 find_canvas() {
-    eval "$(xdotool getwindowgeometry --shell "$window" | grep -E '^(X|Y|WIDTH|HEIGHT)=')"
-    canvas_width=$WIDTH
-    canvas_height=$((WIDTH == 660 ? 470 : 414))
-    canvas_x=$X
-    canvas_y=$((Y + HEIGHT - canvas_height))
+    local height top
+    read -r canvas_x top canvas_width height < <(xwininfo -id "$window" | awk '
+        /Absolute upper-left X/ { x = $NF } /Absolute upper-left Y/ { y = $NF }
+        /^  Width:/ { width = $NF } /^  Height:/ { print x, y, width, $NF }')
+    canvas_height=$((canvas_width == 660 ? 470 : 414))
+    canvas_y=$((top + height - canvas_height))
 }
 
 point_at() { xdotool mousemove $((canvas_x + $1)) $((canvas_y + $2)) sleep 0.05; }
@@ -68,6 +75,10 @@ drag() {
 }
 keys() { xdotool key --delay 60 "$@" sleep 0.2; }
 type_text() { xdotool type --delay 25 "$1" && sleep 0.2; }
+
+# Waits until something else than the main window has the focus.
+dialog_opens() { wait_for 5 has_left_window || fail "no dialog"; }
+has_left_window() { [[ $(xdotool getactivewindow) != "$window" ]]; }
 
 # dialog_is TITLE: waits until that dialog has the focus.
 dialog_is() { wait_for 5 has_focus "$1" || fail "no dialog \"$1\""; }

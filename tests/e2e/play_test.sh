@@ -58,11 +58,10 @@ press_done
 keys 0
 drag_to_square 7 8 10
 press_done
-dialog_is Quillet || true
-sleep 0.3
+dialog_opens
 type_text s
 keys Return
-sleep 0.5
+wait_for 5 has_focus Quillet
 picture cats
 # Bob throws two tiles back.
 drag "$(slot_x 1)" $slot_y "${bag[@]}"
@@ -79,18 +78,18 @@ keys Return
 # The window keeps its size, but for the board's own switch.
 xdotool windowsize "$window" 900 700 sleep 0.5
 find_canvas
-((WIDTH == 660)) || fail "the window was resized to $WIDTH"
+((canvas_width == 660)) || fail "the window was resized to $canvas_width"
 xdotool keydown ctrl
 click_at "${info_panel[@]}"
 xdotool keyup ctrl
 sleep 0.5
 find_canvas
-((WIDTH == 640)) || fail "the small board did not come: $WIDTH"
+((canvas_width == 640)) || fail "the small board did not come: $canvas_width"
 picture small_board
 
 # Quit and save.
 keys ctrl+q
-sleep 0.3
+dialog_opens
 keys Return
 dialog_is "Save Game"
 type_text "$work/end.qlg"

@@ -198,9 +198,14 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
 }
 
-KeyBarrier::KeyBarrier() { QCoreApplication::instance()->installEventFilter(this); }
+KeyBarrier::KeyBarrier(const CanvasWidget& canvasWidget) : canvasArea(canvasWidget) {
+    QCoreApplication::instance()->installEventFilter(this);
+}
 
 bool KeyBarrier::eventFilter(QObject*, QEvent* event) {
+    // What is typed once the button is let go is meant for what comes next, though the program may not have
+    // heard of it yet.
+    if (!canvasArea.HoldsButton()) return false;
     switch (event->type()) {
         case QEvent::KeyPress:
         case QEvent::KeyRelease:

@@ -22,6 +22,7 @@ class CanvasWidget : public QWidget {
 
     void SetExtent(Size client);
     Point LastPointer() const { return pointer; }  // units; as of the last event
+    bool HoldsButton() const { return pressed[0] || pressed[1]; }
     // Buttons whose release another window got count as released.
     void NoticeLostReleases();
 
@@ -62,13 +63,16 @@ class MainWindow : public QWidget {
     CanvasWidget* canvasArea;
 };
 
-// Keeps typed keys and shortcuts from everybody as long as it lives: while the pointer is captured.
+// Keeps typed keys and shortcuts from everybody while the pointer is captured, as long as a button is held.
 class KeyBarrier : public QObject {
   public:
-    KeyBarrier();
+    explicit KeyBarrier(const CanvasWidget& canvasWidget);
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    const CanvasWidget& canvasArea;
 };
 
 }  // namespace quillet

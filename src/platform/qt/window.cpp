@@ -245,7 +245,7 @@ Point PointerPosition() { return state.window ? state.window->CanvasArea().LastP
 void CapturePointer() {
     if (!state.window) return;
     BeginFollowingPointer();
-    if (!state.captured) state.captured = std::make_unique<KeyBarrier>();
+    if (!state.captured) state.captured = std::make_unique<KeyBarrier>(state.window->CanvasArea());
     // With a button held the desktop sends us the pointer anyway; and most let only menus take it otherwise.
     const bool mayGrab = QGuiApplication::platformName() == QLatin1String("xcb");
     if (state.grabbed || !mayGrab || QGuiApplication::mouseButtons() != Qt::NoButton) return;
