@@ -54,6 +54,7 @@ void ShowWindowControls(std::span<const WindowControl> controls) {
         made->setFont(font);
         made->setCursor(Qt::ArrowCursor);
         made->setFocusPolicy(Qt::TabFocus);  // a click leaves the keyboard to the board
+        made->setObjectName(QString::number(control.id));
         made->show();
         shown[control.id] = made.release();
     }
