@@ -93,7 +93,7 @@ QMenuBar* CurrentMenuBar();  // none before one is built; owned by the main wind
 bool IsAcceleratorKey(int keyAndModifiers);
 
 QImage ToQImage(const Image& image);
-int UnitSize();         // of the main window, in the desktop's units; 1 before there is one
+int UnitSize();  // of the main window, in the desktop's units; 1 before there is one
 void EndSounds();
 
 template <typename Condition>
