@@ -20,6 +20,7 @@ int main(int argc, char** argv) {
     if (!options.savedGame.empty()) options.savedGame = std::filesystem::absolute(options.savedGame).string();
     SetDataFolder(dataFolder);
     if (!StartPlatform(argc, argv)) return 1;
+    SetProgramIcon(dataFolder + "/icons");
     RunProgram(options);
     EndPlatform();
     return 0;

@@ -2,7 +2,8 @@
 # shellcheck shell=bash
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
-packages=(g++ cmake ninja-build libgtest-dev libgmock-dev libbenchmark-dev libcli11-dev)
+packages=(g++ cmake ninja-build libgtest-dev libgmock-dev libbenchmark-dev libcli11-dev
+    qt6-base-dev qt6-multimedia-dev libgl1-mesa-dev fonts-liberation)
 fuzz_packages=(clang-14 libclang-rt-14-dev)
 
 # install_missing [PACKAGE...]: installs the Debian packages that are missing, with those named; asks nothing.

@@ -11,6 +11,7 @@
 #include "platform/message_box.h"
 #include "platform/sound.h"
 #include "platform/ticks.h"
+#include "platform/window_controls.h"
 
 namespace quillet {
 
@@ -20,6 +21,8 @@ static void PrintTo(const Message& message, std::ostream* out) {
          << (message.control ? " control" : "") << " key " << static_cast<int>(message.key) << " character "
          << static_cast<int>(message.character) << " command " << message.command;
 }
+
+static void PrintTo(const Font& font, std::ostream* out) { *out << font.face << ' ' << font.points; }
 
 namespace {
 
@@ -324,6 +327,37 @@ TEST_F(MenuContract, ItemsAreAppendedRenamedAndRemoved) {
     person::ChooseItem(205);
     EXPECT_THAT(TakeMessages(), IsEmpty());
     EXPECT_EQ(person::MenuText(205), "");
+}
+
+// --- Controls in the window ---
+
+TEST_F(WindowContract, ControlsInTheWindowMakeMessagesUntilTheyAreHidden) {
+    static constexpr std::array<std::string_view, 3> kLines{"5", "7", "9"};
+    const std::array controls{
+        WindowControl{.id = 2, .rect = {15, 15, 75, 37}, .text = "Cancel"},
+        WindowControl{.id = 3,
+                      .kind = ControlKind::DropDown,
+                      .rect = {15, 85, 75, 107},
+                      .text = "Rows",
+                      .lines = kLines},
+    };
+    const auto isOf = [](int id) {
+        return testing::AllOf(IsKind(Kind::ControlEvent), Field(&Message::command, id));
+    };
+    ShowWindowControls(controls);
+    SetWindowControlChoice(3, 1);
+    EXPECT_EQ(WindowControlChoice(3), 1);
+    EXPECT_THAT(TakeMessages(), IsEmpty());
+    person::ChooseWindowControlLine(3, 2);
+    EXPECT_EQ(WindowControlChoice(3), 2);
+    person::PressWindowControl(2);
+    EXPECT_THAT(TakeMessages(), ElementsAre(isOf(3), isOf(2)));
+    HideWindowControls();
+    person::PressWindowControl(2);
+    person::PressButton({20, 20});
+    EXPECT_THAT(TakeMessages(), ElementsAre(IsKind(Kind::ButtonDown)));
+    person::TypeCharacter('a');
+    EXPECT_THAT(TakeMessages(), ElementsAre(IsCharacter('a')));
 }
 
 // --- Dialogs ---
@@ -674,7 +708,12 @@ TEST_P(FontContract, NothingAndSpacesLeaveNoMark) {
 
 INSTANTIATE_TEST_SUITE_P(Faces, FontContract,
                          testing::Values(Font{"Arial", 8}, Font{"Times New Roman Bold", 12},
-                                         Font{"Courier New", 9}));
+                                         Font{"Courier New", 9}),
+                         [](const auto& instance) {
+                             std::string name(instance.param.face);
+                             std::erase(name, ' ');
+                             return name;
+                         });
 
 TEST(FixedPitch, EveryCharacterIsAsWideAsTheOthersAtEveryScale) {
     for (int points : {8, 9}) {

@@ -51,6 +51,10 @@ void PressEnter(Dialog& dialog);
 void PressCloseBox(Dialog& dialog);
 bool HasFocus(Dialog& dialog, int control);
 
+// At the controls in the window.
+void PressWindowControl(int id);
+void ChooseWindowControlLine(int id, int line);
+
 // At the next box.
 void WillPressEnter();
 void WillPressEscape();

@@ -88,6 +88,9 @@ void PressEnter(Dialog& dialog) {
 
 bool HasFocus(Dialog& dialog, int control) { return dialog.focus == control; }
 
+void PressWindowControl(int id) { quillet::PressWindowControl(id); }
+void ChooseWindowControlLine(int id, int line) { quillet::ChooseWindowControlLine(id, line); }
+
 void WillPressEnter() {}  // what happens when no answer was given
 
 void WillPressEscape() {

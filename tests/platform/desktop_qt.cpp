@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QListView>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <QWindow>
@@ -221,6 +222,18 @@ void PressCloseBox(Dialog& dialog) {
 }
 
 bool HasFocus(Dialog& dialog, int control) { return WidgetOf(dialog, control).hasFocus(); }
+
+void PressWindowControl(int id) {
+    auto* button = MainCanvas()->findChild<QPushButton*>(QString::number(id));
+    if (button != nullptr) ClickOn(*button, button->rect().center());
+}
+
+void ChooseWindowControlLine(int id, int line) {
+    auto* list = MainCanvas()->findChild<QComboBox*>(QString::number(id));
+    if (list == nullptr) return;
+    list->setFocus();
+    while (list->currentIndex() < line) PressKeyIn(Window(), Qt::Key_Down);
+}
 
 void WillPressEnter() {
     WhenOpen([] { PressKeyIn(*QApplication::activeModalWidget(), Qt::Key_Return); });

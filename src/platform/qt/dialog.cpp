@@ -140,6 +140,8 @@ void AddControls(Dialog& dialog, std::span<const ControlTemplate> controls) {
     for (const ControlTemplate& control : controls) {
         QWidget* widget = MakeWidget(control, &window);
         if (label != nullptr && IsLabelled(control.kind)) NameAfter(*label, *widget);
+        // Beside something high it names the first line of it.
+        if (label != nullptr && GrowsDownwards(control.kind)) rows.grid->setAlignment(label, Qt::AlignTop);
         label = control.kind == ControlKind::Label ? widget : nullptr;
         if (control.kind != ControlKind::Radio) {
             radios = nullptr;

@@ -40,9 +40,9 @@ void ChooseLine(QWidget& widget, int line) {
     auto& list = static_cast<LineList&>(widget);
     const QModelIndex index = LineAt(list, line);
     if (!index.isValid()) return list.selectionModel()->clear();
-    list.setCurrentIndex(index);
-    // Far away, it comes to the top, with what follows it in view.
+    // From far away it comes to the top, with what follows it in view.
     const bool isInView = list.viewport()->rect().contains(list.visualRect(index));
+    list.setCurrentIndex(index);
     list.scrollTo(index, isInView ? QListView::EnsureVisible : QListView::PositionAtTop);
 }
 

@@ -30,9 +30,9 @@ std::string ChosenPlugin(std::span<char*> commandLine) {
     return chosen.substr(0, chosen.find_first_of(":;"));
 }
 
-bool IsInstalled(const char* plugin) {
+bool IsInstalled(const std::string& plugin) {
     const QDir folder(QLibraryInfo::path(QLibraryInfo::PluginsPath) + QStringLiteral("/platforms"));
-    return !folder.entryList({QStringLiteral("libq%1*").arg(QLatin1String(plugin))}).isEmpty();
+    return !folder.entryList({QStringLiteral("libq%1*").arg(QString::fromStdString(plugin))}).isEmpty();
 }
 
 bool ConnectToX() {
@@ -76,6 +76,9 @@ bool WaylandAnswers() {
 
 DisplayFault FindDisplayFault(std::span<char*> commandLine) {
     const std::string plugin = ChosenPlugin(commandLine);
+    if (!plugin.empty() && !IsInstalled(plugin)) {
+        return "there is no platform \"" + plugin + "\" (QT_QPA_PLATFORM) to show a window on";
+    }
     const bool mayUseX = plugin.empty() || plugin == "xcb";
     const bool mayUseWayland = plugin.empty() || plugin.starts_with("wayland");
     if (!mayUseX && !mayUseWayland) return {};

@@ -1,5 +1,6 @@
 #include "platform/qt/main_window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QCursor>
@@ -194,6 +195,10 @@ bool MainWindow::event(QEvent* event) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
+    // The program hears nothing while a menu is open.
+    while (QWidget* popUp = QApplication::activePopupWidget()) {
+        if (!popUp->close()) break;
+    }
     PostMessage({.kind = Kind::CloseRequest});
     event->ignore();
 }

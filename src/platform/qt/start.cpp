@@ -1,4 +1,7 @@
 #include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QIcon>
 #include <cstdio>
 #include <memory>
 
@@ -24,8 +27,18 @@ bool StartPlatform(int& argumentCount, char** arguments) {
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::Round);
     application = std::make_unique<QApplication>(argumentCount, arguments);
     QApplication::setApplicationName(QStringLiteral("quillet"));
+    QApplication::setDesktopFileName(QStringLiteral("quillet"));
     QApplication::setQuitOnLastWindowClosed(false);
     return true;
+}
+
+void SetProgramIcon(const std::string& folder) {
+    QIcon icon;
+    const QDir pictures(QFile::decodeName(QByteArray::fromStdString(folder)));
+    for (const QString& file : pictures.entryList({QStringLiteral("*.png")}, QDir::Files)) {
+        icon.addFile(pictures.filePath(file));
+    }
+    QApplication::setWindowIcon(icon);
 }
 
 void EndPlatform() {

@@ -13,6 +13,8 @@
 namespace quillet {
 namespace {
 
+constexpr int kTextHeight = 11;  // units: the places of the controls are made for text of that size
+
 std::map<int, QPointer<QWidget>> shown;  // they go with the window, if not before
 
 void PostControlEvent(int id) { PostMessage({.kind = Message::Kind::ControlEvent, .command = id}); }
@@ -47,7 +49,12 @@ void ShowWindowControls(std::span<const WindowControl> controls) {
         auto made = (control.kind == ControlKind::DropDown ? MakeList : MakeButton)(control, canvas);
         made->setGeometry(control.rect.left * unit, control.rect.top * unit, control.rect.Width() * unit,
                           control.rect.Height() * unit);
-        made->setFocusPolicy(Qt::NoFocus);  // the keyboard stays the board's
+        QFont font = made->font();
+        font.setPixelSize(kTextHeight * unit);
+        made->setFont(font);
+        made->setCursor(Qt::ArrowCursor);
+        made->setFocusPolicy(Qt::TabFocus);  // a click leaves the keyboard to the board
+        made->setObjectName(QString::number(control.id));
         made->show();
         shown[control.id] = made.release();
     }
@@ -56,6 +63,7 @@ void ShowWindowControls(std::span<const WindowControl> controls) {
 void HideWindowControls() {
     for (const auto& [id, control] : shown) delete control;
     shown.clear();
+    if (QWidget* canvas = MainCanvas()) canvas->setFocus();
 }
 
 int WindowControlChoice(int id) { return ListOf(id).currentIndex(); }

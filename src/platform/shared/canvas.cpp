@@ -167,7 +167,7 @@ Point Canvas::DrawText(const Font& font, Point baseline, std::string_view text, 
 
 void Canvas::Copy(const Canvas& other, const Rect& from, Point to) {
     const Rect part = from.Intersection(Rect::At({0, 0}, other.Extent()));
-    if (part.IsEmpty()) return;
+    if (part.IsEmpty() || other.scale != scale) return;
     const Point corner{to.x + part.left - from.left, to.y + part.top - from.top};
     const Rect box = ToPixels(part.MovedTo(corner));
     const Rect source = ToPixels(part);
