@@ -104,6 +104,9 @@ class Monkey : public RunningProgram {
     }
 
     void Prepare() {
+        // Computers alone would play game after game while the pointer rests on the statistics' box.
+        if (view.layout.statisticsBox.Contains(headlessWindow.pointer)) headlessWindow.pointer = {1, 1};
+        if (AllComputers()) preferences.saveStatistics = false;
         headlessWindow.dialogScripts.assign(4, [this](Dialog& dialog) { PlayDialog(dialog); });
         headlessWindow.fileAnswers.clear();
         const char* files[] = {"game.qlg", "words.txt", "none.qlg", "game2.qlg"};

@@ -72,14 +72,16 @@ void CloseModeless([[maybe_unused]] Dialog& dialog) {
 // --- The person's hand ---
 
 void PressControl(Dialog& dialog, int control) {
-    if (dialog.controls.contains(control) && !IsReachable(dialog, control)) return;
-    if (dialog.controls.contains(control)) {
-        HeadlessControl& pressed = Control(dialog, control);
-        if (pressed.kind == ControlKind::Check) pressed.checked = !pressed.checked;
-        if (pressed.kind == ControlKind::Radio) {
-            for (auto& [id, other] : dialog.controls) {
-                if (other.kind == ControlKind::Radio) other.checked = id == control;
-            }
+    const auto found = dialog.controls.find(control);
+    if (found == dialog.controls.end()) {
+        if (control == kCancelId) Tell(dialog, EventKind::Pressed, control);  // Escape, or the close box
+        return;
+    }
+    if (!IsReachable(dialog, control)) return;
+    if (found->second.kind == ControlKind::Check) found->second.checked = !found->second.checked;
+    if (found->second.kind == ControlKind::Radio) {
+        for (auto& [id, other] : dialog.controls) {
+            if (other.kind == ControlKind::Radio) other.checked = id == control;
         }
     }
     Tell(dialog, EventKind::Pressed, control);

@@ -77,6 +77,7 @@ void Append(QMenu& menu, const MenuItem& item) {
     }
     QAction* action = menu.addAction(QString());
     action->setMenuRole(QAction::NoRole);
+    action->setData(item.command);
     action->setShortcuts(KeysOfCommand(item.command));
     SetText(*action, item.text);
     const int command = item.command;

@@ -224,13 +224,15 @@ void MoveToMiddle(QWidget& dialog, std::optional<Point> middle) {
 
 int RunModal(QDialog& dialog) {
     constexpr std::uint32_t kMaxTimeToReturn = 250;
-    const QWidget* behind = dialog.parentWidget();
+    QWidget* behind = dialog.parentWidget();
     const bool wasActive = behind != nullptr && behind->isActiveWindow();
     ShowChanges();
     const int result = dialog.exec();
-    // The desktop gives the focus back in its own time; what comes next may ask who has it.
+    // What comes next may ask who has the focus. The person may have gone to another program meanwhile.
+    if (!wasActive || QGuiApplication::applicationState() != Qt::ApplicationActive) return result;
+    behind->activateWindow();
     const QDeadlineTimer deadline = DeadlineIn(kMaxTimeToReturn);
-    while (wasActive && !behind->isActiveWindow() && !deadline.hasExpired()) SleepUntil(deadline);
+    while (!behind->isActiveWindow() && !deadline.hasExpired()) SleepUntil(deadline);
     return result;
 }
 
@@ -244,8 +246,8 @@ void CapturePointer() {
     if (!state.window) return;
     BeginFollowingPointer();
     if (!state.captured) state.captured = std::make_unique<KeyBarrier>();
-    // With a button held the desktop sends us the pointer anyway; and some let only menus take it.
-    const bool mayGrab = !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+    // With a button held the desktop sends us the pointer anyway; and most let only menus take it otherwise.
+    const bool mayGrab = QGuiApplication::platformName() == QLatin1String("xcb");
     if (state.grabbed || !mayGrab || QGuiApplication::mouseButtons() != Qt::NoButton) return;
     state.window->CanvasArea().grabMouse();
     state.grabbed = true;
