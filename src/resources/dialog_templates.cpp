@@ -33,13 +33,10 @@ constexpr int kTextWidth = 60;  // of a text to read
 constexpr std::array kHelp{
     Label("&Topic:", {0, 0}),
     ControlTemplate{
-        .id = HelpControls::kTopic, .kind = Kind::DropDown, .cell = {0, 1}, .width = kLongestName},
-    Label("Te&xt:", {1, 0, 1, 2}),
-    ControlTemplate{.id = HelpControls::kText,
-                    .kind = Kind::ReadOnlyText,
-                    .cell = {2, 0, 1, 2},
-                    .width = 80,
-                    .height = 24},
+        .id = HelpControls::kTopic, .kind = Kind::DropDown, .cell = {1, 0}, .width = kLongestName},
+    Label("Te&xt:", {2, 0}),
+    ControlTemplate{
+        .id = HelpControls::kText, .kind = Kind::ReadOnlyText, .cell = {3, 0}, .width = 80, .height = 24},
     Ok(),
 };
 
