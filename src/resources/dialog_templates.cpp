@@ -33,10 +33,10 @@ constexpr int kTextWidth = 60;  // of a text to read
 constexpr std::array kHelp{
     Label("&Topic:", {0, 0}),
     ControlTemplate{
-        .id = HelpControls::kTopic, .kind = Kind::DropDown, .cell = {0, 1}, .width = kLongestName},
-    Label("Te&xt:", {1, 0}),
+        .id = HelpControls::kTopic, .kind = Kind::DropDown, .cell = {1, 0}, .width = kLongestName},
+    Label("Te&xt:", {2, 0}),
     ControlTemplate{
-        .id = HelpControls::kText, .kind = Kind::ReadOnlyText, .cell = {1, 1}, .width = 80, .height = 24},
+        .id = HelpControls::kText, .kind = Kind::ReadOnlyText, .cell = {3, 0}, .width = 80, .height = 24},
     Ok(),
 };
 
@@ -104,10 +104,10 @@ constexpr std::array kDefineWord{
     Label("&Word:", {0, 0}),
     Edit(DefineWordControls::kWord, {0, 1}, kLongestName),
     ControlTemplate{.id = kOkId, .kind = Kind::DefaultButton, .text = "&Define", .cell = {0, 2}},
-    Label("&Meaning:", {1, 0}),
+    Label("&Meaning:", {1, 0, 1, 3}),
     ControlTemplate{.id = DefineWordControls::kText,
                     .kind = Kind::ReadOnlyText,
-                    .cell = {1, 1, 1, 2},
+                    .cell = {2, 0, 1, 3},
                     .width = kTextWidth,
                     .height = 7},
     Cancel(),
@@ -148,7 +148,7 @@ constexpr std::array<ControlTemplate, 7> WordAndList(int row) {
         Label("&List:", {0, 2}),
         ControlTemplate{.id = Editor::kList,
                         .kind = Kind::List,
-                        .cell = {0, 3, row + 5, 1},
+                        .cell = {1, 2, row + 4, 1},
                         .width = 17,
                         .height = 12,
                         .fixedPitch = true},
@@ -222,7 +222,7 @@ constexpr std::array kEditScenario{
 
 constexpr std::array kAbout{
     ControlTemplate{
-        .id = AboutControls::kIcon, .kind = Kind::Picture, .cell = {0, 0}, .width = 48, .height = 48},
+        .id = AboutControls::kIcon, .kind = Kind::Picture, .cell = {0, 0}, .width = 64, .height = 64},
     Label("Quillet 1.0", {0, 1}),
     Ok(),
 };

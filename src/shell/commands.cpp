@@ -65,13 +65,17 @@ void NewGameCommand() {
 }
 
 void OpenGameCommand() {
-    if (const auto path = ChooseFileToOpen(SavedGameFiles(), gameFileName)) OpenGameFile(*path);
+    const auto path = ChooseFileToOpen(SavedGameFiles(), gameFileName);
+    if (!path) return;
+    gameFileName = FileTitle(*path);
+    OpenGameFile(*path);
 }
 
 void SaveGameCommand() {
     const std::string proposed = gameFileName.empty() ? "untitled.qlg" : gameFileName;
     if (const auto path = ChooseFileToSave(SavedGameFiles(), proposed)) {
-        if (SaveGame(*path)) gameFileName = FileTitle(*path);
+        gameFileName = FileTitle(*path);
+        SaveGame(*path);
     }
 }
 
@@ -212,7 +216,9 @@ void TextOperation(void (*operation)(std::string_view path), const std::optional
 void AddFromTextCommand() { TextOperation(AddFromTextFile, ChooseFileToOpen(TextFiles(), "")); }
 
 void DumpToTextCommand() {
-    if (HasWordsToDump()) TextOperation(DumpToTextFile, ChooseFileToSave(TextFiles(), ""));
+    if (!HasWordsToDump()) return;
+    const std::string proposed = SystemName(std::string(wordList.current) + ".txt");
+    TextOperation(DumpToTextFile, ChooseFileToSave(TextFiles(), proposed));
 }
 
 void DefineRemembered() {

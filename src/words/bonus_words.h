@@ -26,7 +26,8 @@ void BuildBonusDict(const BonusWordTable& table);
 // Makes the table hold the words of bonusDict, which were edited there.
 void TakeBonusWords();
 
-// The points for a bonus word, as they were typed; none, with a warning, when that is no number that they can be.
+// The points for a bonus word, as they were typed; none, with a warning, when that is no number that they can
+// be.
 std::optional<std::int16_t> ReadBonusPoints(std::string_view typed);
 
 // Reads the bonus words of the scenario in that folder, one a line in its file "602.str", and builds

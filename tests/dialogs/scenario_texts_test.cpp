@@ -109,7 +109,7 @@ TEST_F(ScenarioTexts, AboutTheProgramWithItsIconWhereThereIsOne) {
         });
         ShowAboutBox();
         MakeFolder("Data/Graphics");
-        SavePicture(Image(48, 48), "Data\\Graphics\\icon.bmp");
+        SavePicture(Image(64, 64), "Data\\Graphics\\icon.bmp");
     }
     EXPECT_THAT(TakeMessages(), IsEmpty());
 }

@@ -44,6 +44,7 @@ std::vector<Picture> InterfacePictures() {
         {"tile", [](int scale) { return DrawTile(kBigPitch, scale); }},
         {"tiles", [](int scale) { return DrawTile(kSmallPitch, scale); }},
         {"logo", DrawLogo},
+        {"icon", DrawAboutIcon},
         {"lock", DrawLock},
         {"pattbg", DrawCloth},
         {"pattshad", DrawShadow},

@@ -40,9 +40,10 @@ QImage DrawBag(int fill, int scale);
 QImage DrawBagInk(int scale);  // ink on white
 
 // --- The program's name ---
-QImage DrawLogo(int scale);    // 225 x 46
-QImage DrawSplash(int scale);  // 640 x 414
-QImage DrawIcon(int pixels);   // on a clear ground
+QImage DrawLogo(int scale);       // 225 x 46
+QImage DrawSplash(int scale);     // 640 x 414
+QImage DrawIcon(int pixels);      // on a clear ground
+QImage DrawAboutIcon(int scale);  // 64 x 64, the icon on cloth
 
 // --- Opponents, 215 x 150 ---
 constexpr int kMoodCount = 5;  // normal, pleased, displeased, winner, loser

@@ -71,6 +71,21 @@ void PaintLooseTile(QPainter& painter, QPointF middle, double turn, char letter)
 
 constexpr int kSplashWidth = 640, kSplashHeight = 414, kSplashMargin = 20;
 
+// A tile with a Q whose tail is a quill, in 32 units. A tiny one leaves out what would be less than a pixel.
+constexpr double kIconUnits = 32;
+
+void PaintIcon(QPainter& painter, bool tiny) {
+    const double edge = tiny ? 0 : 1;
+    const QRectF tile(edge, edge, kIconUnits - 2 * edge, kIconUnits - 2 * edge);
+    FillRound(painter, tile, 4.6, kTileEdge);
+    FillRound(painter, tile.adjusted(0, 0, -1.2, -1.2), 4.4, kTileDark);
+    FillRound(painter, tile.adjusted(0, 0, -2.4, -2.4), 4, Ramp(tile, kTileLight, kTile));
+    const QPointF middle(tiny ? 14 : 14.2, tiny ? 13.6 : 14);
+    Fill(painter, LetteringIn(Face::SerifBold, "O", middle, tiny ? 21 : 19.5), kInkDark);
+    const QPointF nib(tiny ? 13 : 14, tiny ? 14 : 16);
+    Quill(painter, nib, 18, -42, {kMadder, kMadderDark, tiny ? kMadderDark : kInkDark}, tiny ? 0.22 : 0.19);
+}
+
 }  // namespace
 
 QImage DrawLogo(int scale) {
@@ -109,27 +124,25 @@ QImage DrawSplash(int scale) {
         kWhite);
 }
 
-// A tile with a Q whose tail is a quill. The drawing is of 32 units; the two smallest icons leave out what
-// would be less than a pixel.
 QImage DrawIcon(int pixels) {
-    constexpr double kUnits = 32;
-    const bool tiny = pixels < 24;
     QImage icon(pixels, pixels, QImage::Format_ARGB32);
     icon.fill(Qt::transparent);
     QPainter painter(&icon);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(pixels / kUnits, pixels / kUnits);
-    const double edge = tiny ? 0 : 1;
-    const QRectF tile(edge, edge, kUnits - 2 * edge, kUnits - 2 * edge);
-    FillRound(painter, tile, 4.6, kTileEdge);
-    FillRound(painter, tile.adjusted(0, 0, -1.2, -1.2), 4.4, kTileDark);
-    FillRound(painter, tile.adjusted(0, 0, -2.4, -2.4), 4, Ramp(tile, kTileLight, kTile));
-    const QPointF middle(tiny ? 14 : 14.2, tiny ? 13.6 : 14);
-    Fill(painter, LetteringIn(Face::SerifBold, "O", middle, tiny ? 21 : 19.5), kInkDark);
-    const QPointF nib(tiny ? 13 : 14, tiny ? 14 : 16);
-    Quill(painter, nib, 18, -42, {kMadder, kMadderDark, tiny ? kMadderDark : kInkDark}, tiny ? 0.22 : 0.19);
+    painter.scale(pixels / kIconUnits, pixels / kIconUnits);
+    PaintIcon(painter, pixels < 24);
     painter.end();
     return icon;
+}
+
+QImage DrawAboutIcon(int scale) {
+    constexpr int kSize = 64, kMargin = 8;
+    return Draw(kSize, kSize, scale, [&](QPainter& painter) {
+        LayCloth(painter, {0, 0, kSize, kSize}, {0, 0}, scale);
+        painter.translate(kMargin, kMargin);
+        painter.scale((kSize - 2 * kMargin) / kIconUnits, (kSize - 2 * kMargin) / kIconUnits);
+        PaintIcon(painter, false);
+    });
 }
 
 }  // namespace quillet

@@ -40,6 +40,17 @@ void RunScript(Dialog& dialog) {
     script(dialog);
 }
 
+// Each line ended by CR LF, whatever ended it.
+std::string WithCrLf(std::string_view text) {
+    std::string lines;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '\n' && i > 0 && text[i - 1] == '\r') continue;
+        const bool endsLine = text[i] == '\r' || text[i] == '\n';
+        lines += endsLine ? std::string("\r\n") : std::string(1, text[i]);
+    }
+    return lines;
+}
+
 std::unique_ptr<Dialog> modelessDialog;
 
 }  // namespace
@@ -116,7 +127,8 @@ std::string ControlText(Dialog& dialog, int control) { return Control(dialog, co
 
 void SetControlText(Dialog& dialog, int control, std::string_view text) {
     HeadlessControl& changed = Control(dialog, control);
-    changed.text = text;
+    const bool hasLines = changed.kind == ControlKind::TextBox || changed.kind == ControlKind::ReadOnlyText;
+    changed.text = hasLines ? WithCrLf(text) : std::string(text);
     changed.selectFrom = changed.text.size();
     changed.selectCount = 0;
 }
