@@ -57,9 +57,11 @@ void RunningProgram::Start(const std::string& savedGame) {
     if (preferences.playTileClicks) FlipPreference(&Preferences::playTileClicks);
     Run(3);
     headless.messages.clear();
+    headlessWindow.sounds.clear();
 }
 
 void RunningProgram::StartGame(std::initializer_list<std::string_view> names) {
+    RememberScenario("Standard");
     WritePlayerNames(std::vector<PlayerName>(names.begin(), names.end()));
     Start();
     ChooseMenuItem(1);
