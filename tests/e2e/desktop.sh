@@ -8,13 +8,19 @@ start_desktop() {
     number_file=$work/display
     Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp 3>"$number_file" 2>"$work/xvfb.log" &
     xvfb_pid=$!
-    trap 'kill -9 ${quillet_pid:-} 2>/dev/null; kill "$xvfb_pid" 2>/dev/null; rm -rf "$work"' EXIT
+    trap end_desktop EXIT
     wait_for 20 test -s "$number_file"
     DISPLAY=:$(cat "$number_file")
     export DISPLAY
     export XDG_RUNTIME_DIR=$work QT_QPA_PLATFORM=xcb
     openbox >"$work/openbox.log" 2>&1 &
     wait_for 10 xdotool search --onlyvisible --name . || true
+}
+
+end_desktop() {
+    kill -9 ${quillet_pid:-} 2>/dev/null || true
+    kill "$xvfb_pid" 2>/dev/null || true
+    rm -rf "$work"
 }
 
 # wait_for SECONDS COMMAND...: until the command succeeds; false when it never did.
