@@ -179,7 +179,7 @@ void PutAt(std::string& line, std::size_t column, std::string_view text) {
     line += text;
 }
 void PutEndingAt(std::string& line, std::size_t column, std::string_view text) {
-    PutAt(line, column + 1 - text.size(), text);
+    PutAt(line, column - text.size(), text);
 }
 
 bool HasClosingLine() { return game.gameOver || game.history.redoCount > 0; }

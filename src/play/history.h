@@ -39,7 +39,8 @@ int HistoryRecord(int player, int line);
 
 // The line's text in columns of a fixed-pitch font, column 0 first: the record's number from 0; at 4 the mark
 // of an undone record (the bullet kNextMark for the one to be redone next, then "+"); the letters from 6; the
-// score ending at 28; with the timer on, the time left ending at 40. Without blanks at its end.
+// score, whose end is where column 28 begins; with the timer on the time left, likewise with 40. Without
+// blanks at its end.
 std::string HistoryLine(int player, int line);
 
 constexpr char kNextMark = '\xB7';

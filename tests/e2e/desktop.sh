@@ -42,7 +42,7 @@ fail() {
 
 # start_quillet ARGUMENT...: starts the program on $data; leaves the window in $window and its canvas's corner.
 start_quillet() {
-    "$program" --data "$data" --zoom 1 "$@" >"$work/quillet.log" 2>&1 &
+    "$program" --data "$data" --zoom "${quillet_zoom:-1}" "$@" >"$work/quillet.log" 2>&1 &
     quillet_pid=$!
     wait_for 20 find_window || fail "no window: $(cat "$work/quillet.log")"
     wait_for 20 is_painted || fail "nothing is painted"
@@ -66,7 +66,7 @@ find_canvas() {
     read -r canvas_x top canvas_width height < <(xwininfo -id "$window" | awk '
         /Absolute upper-left X/ { x = $NF } /Absolute upper-left Y/ { y = $NF }
         /^  Width:/ { width = $NF } /^  Height:/ { print x, y, width, $NF }')
-    canvas_height=$((canvas_width == 660 ? 470 : 414))
+    canvas_height=$((canvas_width % 660 == 0 ? canvas_width / 660 * 470 : canvas_width / 640 * 414))
     canvas_y=$((top + height - canvas_height))
 }
 

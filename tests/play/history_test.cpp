@@ -142,24 +142,24 @@ TEST_F(History, LinesStandInTheirColumns) {
         }
         return texts;
     };
-    EXPECT_THAT(lines(1), ElementsAre("1|1     C(A)T                 8",   //
-                                      "3|3   + replaced Q?           0",   //
-                                      "12|12  + (A)(B)(C)(D)(E)FG  1234",  //
+    EXPECT_THAT(lines(1), ElementsAre("1|1     C(A)T                8",   //
+                                      "3|3   + replaced Q?          0",   //
+                                      "12|12  + (A)(B)(C)(D)(E)FG 1234",  //
                                       "13|      Redo all moves."));
     preferences.timerEnabled = true;
-    EXPECT_THAT(lines(1), ElementsAre("1|1     C(A)T                 8       24:00",   //
-                                      "3|3   + replaced Q?           0        0:05",   //
-                                      "12|12  + (A)(B)(C)(D)(E)FG  1234        0:00",  //
+    EXPECT_THAT(lines(1), ElementsAre("1|1     C(A)T                8       24:00",   //
+                                      "3|3   + replaced Q?          0        0:05",   //
+                                      "12|12  + (A)(B)(C)(D)(E)FG 1234        0:00",  //
                                       "13|      Redo all moves."));
-    EXPECT_EQ(lines(2)[0], "2|2   \xB7 passed                0       +0:30");
+    EXPECT_EQ(lines(2)[0], "2|2   \xB7 passed               0       +0:30");
     history.redoCount = 0;
     EXPECT_EQ(HistoryLineCount(2), 0);
     game.gameOver = true;
     game.players[1].lettersAdjustment = 12;
     game.players[2].lettersAdjustment = -7;
     game.players[2].overtimePenalty = 20;
-    EXPECT_EQ(lines(1)[1], "2|      End of game.        +12");
-    EXPECT_THAT(lines(2), ElementsAre("2|      End of game.         -7         -20"));
+    EXPECT_EQ(lines(1)[1], "2|      End of game.       +12");
+    EXPECT_THAT(lines(2), ElementsAre("2|      End of game.        -7         -20"));
 }
 
 }  // namespace
