@@ -70,6 +70,12 @@ find_canvas() {
     canvas_y=$((top + height - canvas_height))
 }
 
+# canvas_is WIDTH: finds the canvas anew; is it that wide?
+canvas_is() {
+    find_canvas
+    ((canvas_width == $1))
+}
+
 point_at() { xdotool mousemove $((canvas_x + $1)) $((canvas_y + $2)) sleep 0.05; }
 click_at() { point_at "$1" "$2" && xdotool click "${3:-1}" sleep 0.15; }
 drag() {
@@ -102,7 +108,7 @@ colour_at() {
         grep -oE '#[0-9A-F]{6}' | tail -1 | cut -c2-
 }
 
-# is_tile X Y: does the corner of that square show a tile's light edge?
+# is_light X Y: is that point as light as the edge of a tile?
 is_light() {
     local colour
     colour=$(colour_at "$1" "$2")

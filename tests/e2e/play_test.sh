@@ -32,7 +32,7 @@ type_text Ann
 keys Return
 wait_for 5 has_focus Quillet || fail "the game did not start"
 picture first_game
-is_light $(($(slot_x 1) - 10)) $((slot_y - 10)) || fail "no tiles on the rack"
+wait_for 5 is_light $(($(slot_x 1) - 10)) $((slot_y - 10)) || fail "no tiles on the rack"
 [[ $(cat "$data/Data/Prefs/201.str") == Ann ]] || fail "the player's name was not kept"
 keys ctrl+q
 wait_for 10 test ! -d /proc/"$quillet_pid" || fail "Quillet did not end"
@@ -51,7 +51,7 @@ picture opened
 # Ann drags a tile, types the others and presses DONE.
 drag_to_square 1 8 7
 type_text at
-is_light $(($(col_x 9) - 11)) $(($(row_y 8) - 11)) || fail "the typed tile is not on the board"
+wait_for 5 is_light $(($(col_x 9) - 11)) $(($(row_y 8) - 11)) || fail "the typed tile is not on the board"
 picture cat
 press_done
 # Bob passes; Ann goes on with her blank.
@@ -77,14 +77,11 @@ picture hint
 keys Return
 # The window keeps its size, but for the board's own switch.
 xdotool windowsize "$window" 900 700 sleep 0.5
-find_canvas
-((canvas_width == 660)) || fail "the window was resized to $canvas_width"
+canvas_is 660 || fail "the window was resized to $canvas_width"
 xdotool keydown ctrl
 click_at "${info_panel[@]}"
 xdotool keyup ctrl
-sleep 0.5
-find_canvas
-((canvas_width == 640)) || fail "the small board did not come: $canvas_width"
+wait_for 5 canvas_is 640 || fail "the small board did not come: $canvas_width"
 picture small_board
 
 # Quit and save.
