@@ -1,11 +1,11 @@
 #include "platform/qt/display_check.h"
 
+#include <dlfcn.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
 
 #include <QDir>
-#include <QLibrary>
 #include <QLibraryInfo>
 #include <algorithm>
 #include <chrono>
@@ -35,14 +35,15 @@ bool IsInstalled(const std::string& plugin) {
     return !folder.entryList({QStringLiteral("libq%1*").arg(QString::fromStdString(plugin))}).isEmpty();
 }
 
+// Without the toolkit: the first thread that it is called on, it takes for the program's main one.
 bool ConnectToX() {
     struct Connection;
-    QLibrary xcb(QStringLiteral("xcb"), 1);
-    const auto connect = reinterpret_cast<Connection* (*)(const char*, int*)>(xcb.resolve("xcb_connect"));
-    const auto hasError = reinterpret_cast<int (*)(Connection*)>(xcb.resolve("xcb_connection_has_error"));
-    const auto disconnect = reinterpret_cast<void (*)(Connection*)>(xcb.resolve("xcb_disconnect"));
-    if (connect == nullptr || hasError == nullptr || disconnect == nullptr)
-        return true;  // the toolkit will say
+    void* xcb = dlopen("libxcb.so.1", RTLD_NOW | RTLD_LOCAL);
+    if (xcb == nullptr) return true;  // the toolkit will say
+    const auto connect = reinterpret_cast<Connection* (*)(const char*, int*)>(dlsym(xcb, "xcb_connect"));
+    const auto hasError = reinterpret_cast<int (*)(Connection*)>(dlsym(xcb, "xcb_connection_has_error"));
+    const auto disconnect = reinterpret_cast<void (*)(Connection*)>(dlsym(xcb, "xcb_disconnect"));
+    if (connect == nullptr || hasError == nullptr || disconnect == nullptr) return true;
     Connection* connection = connect(nullptr, nullptr);
     const bool answers = hasError(connection) == 0;
     disconnect(connection);
