@@ -143,6 +143,7 @@ Point PlaceInSwapView(LetterCode code) {
 TEST_F(Views, ATileOfTheRackIsSwappedForTheOneItIsDroppedOn) {
     Begin();
     GiveRack(1, "CATSDOG");
+    GiveRack(2, "Z");
     game.startRacks[1] = "CATSDOG";
     game.history.records[1].player = 1;
     game.history.records[1].letters = "{}";
@@ -155,9 +156,8 @@ TEST_F(Views, ATileOfTheRackIsSwappedForTheOneItIsDroppedOn) {
         int redoCount;
     };
     const Case cases[] = {
-        {"beside the tiles", 0, true, "CATSDOG", 1},
-        {"the same letter", 'D', true, "CATSDOG", 1},
-        {"not allowed", 'E', false, "CATSDOG", 1},
+        {"beside the tiles", 0, true, "CATSDOG", 1},  {"where a drawn tile was", 'Z', true, "CATSDOG", 1},
+        {"the same letter", 'D', true, "CATSDOG", 1}, {"not allowed", 'E', false, "CATSDOG", 1},
         {"another letter", 'E', true, "CATSEOG", 0},
     };
     for (const Case& testCase : cases) {
