@@ -1,6 +1,7 @@
 #include "editors/letters_editor.h"
 
-#include <charconv>
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -9,6 +10,7 @@
 #include "game/game_state.h"
 #include "platform/dialog.h"
 #include "platform/message_box.h"
+#include "store/numbers.h"
 
 namespace quillet {
 namespace {
@@ -128,17 +130,14 @@ void Step(Dialog& dialog, LettersDraft& draft, int control, int step) {
     ShowCode(dialog, draft, code);
 }
 
-std::optional<int> ReadBonus(Dialog& dialog) {
+std::optional<std::int32_t> ReadBonus(Dialog& dialog) {
     constexpr std::size_t kMostCharacters = 7;
-    const std::string text = ControlText(dialog, kBonusId).substr(0, kMostCharacters);
-    int bonus = -1;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), bonus);
-    const bool valid = error == std::errc{} && end == text.data() + text.size() && bonus >= 0;
-    return valid && bonus <= kMostBonus ? std::optional(bonus) : std::nullopt;
+    const auto bonus = ParseInteger(ControlText(dialog, kBonusId).substr(0, kMostCharacters));
+    return bonus && *bonus >= 0 && *bonus <= kMostBonus ? bonus : std::nullopt;
 }
 
 void Save(Dialog& dialog, const LettersDraft& draft) {
-    const std::optional<int> bonus = ReadBonus(dialog);
+    const std::optional<std::int32_t> bonus = ReadBonus(dialog);
     if (!bonus) {
         Warning("7 letter bonus must be from 0 to ", std::to_string(kMostBonus), ".");
         FocusControl(dialog, kBonusId);

@@ -16,6 +16,7 @@ namespace {
 
 constexpr int kHeadRows = 2;  // above the moves
 constexpr int kFewestLines = 4;
+constexpr int kHighest = 2;  // where the view's top may be
 constexpr int kLeftMargin = 6;
 constexpr int kMarkColumn = 4;
 constexpr std::uint32_t kScrollPause = 50;  // milliseconds for each line
@@ -58,7 +59,7 @@ HistoryList MakeList(int player) {
     const int width = (28 + (list.HasTime() ? 12 : 0)) * list.metrics.averageWidth + 2 * kLeftMargin;
     const int bottom = row.top - 2;
     int top = bottom - (list.lines + kHeadRows) * list.metrics.height - 2 * list.metrics.descent;
-    while (top <= 2 && list.visible > kFewestLines) {
+    while (top < kHighest && list.visible > kFewestLines) {
         --list.visible;
         ++list.above;
         top += list.metrics.height;

@@ -56,7 +56,9 @@ constexpr StatisticsRow kStatisticsRows[] = {
          return OneDecimal(player.totalScore, totals.games);
      }},
     {"     Best move:",
-     [](const StatisticsTotals&, const PlayerTotals& player) { return std::to_string(player.bestMove); }},
+     [](const StatisticsTotals&, const PlayerTotals& player) {
+         return player.totalMoves == 0 ? "-" : std::to_string(player.bestMove);
+     }},
     {"  Average move:",
      [](const StatisticsTotals&, const PlayerTotals& player) {
          return OneDecimal(player.totalScore, player.totalMoves);

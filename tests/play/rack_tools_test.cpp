@@ -164,5 +164,37 @@ TEST_F(RackTools, HintsAreForHumansWhoAllowThem) {
     EXPECT_THAT(recorded.calls, IsEmpty());
 }
 
+TEST_F(RackTools, SwappingWithTheBagRewritesTheLatestDrawOfThatLetter) {
+    struct Case {
+        std::vector<std::string> drawn;  // after each move so far, Ada's the first
+        std::vector<std::string> rewritten;
+        const char* startRack;
+    };
+    const Case cases[] = {
+        {{"DOD", "D", "AD", "D"}, {"DOD", "D", "AZ", "D"}, "DAD"},
+        {{"DOD", "D", "AA", "D"}, {"ZOD", "D", "AA", "D"}, "DAD"},
+        {{"EEE", "D"}, {"EEE", "D"}, "ZAD"},
+        {{}, {}, "ZAD"},
+    };
+    for (const Case& testCase : cases) {
+        StartGame({"Ada", "Bo"});
+        GiveRack(2, "AEIEAIE");
+        GiveRack(1, "CATSDOG");
+        game.startRacks[1] = "DAD";
+        for (std::size_t i = 0; i < testCase.drawn.size(); ++i) {
+            GiveScore(static_cast<int>(i % 2) + 1, 0);
+            game.history.Last().newLetters = Text<kRackSize>(testCase.drawn[i]);
+        }
+        game.history.redoCount = 3;
+        SwapWithBag(5, 'Z');
+        EXPECT_EQ(RackOf(1), "CATSZOG");
+        EXPECT_EQ(game.history.redoCount, 0);
+        EXPECT_EQ(game.startRacks[1].View(), testCase.startRack);
+        for (std::size_t i = 0; i < testCase.rewritten.size(); ++i) {
+            EXPECT_EQ(game.history.records[static_cast<int>(i) + 1].newLetters.View(), testCase.rewritten[i]);
+        }
+    }
+}
+
 }  // namespace
 }  // namespace quillet

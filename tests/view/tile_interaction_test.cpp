@@ -122,6 +122,36 @@ TEST_F(Hand, NewTilesSwapAndMakeRoom) {
     ExpectRack("....DOG.");
 }
 
+TEST_F(Hand, ANewTileIsPushedWhereThereIsMostRoom) {
+    struct Case {
+        const char* name;
+        std::vector<BoardPosition> fixed;
+        BoardPosition another;  // new tile
+        const char* row;        // 8, from column 6
+        const char* column;     // 8, from row 6
+    };
+    const Case cases[] = {
+        {"nothing around: to the right", {}, {1, 1}, "..SC.", "..S.."},
+        {"fixed at the right", {{8, 9}}, {1, 1}, ".CSE.", "..S.."},
+        {"fixed on both sides: down", {{8, 7}, {8, 9}}, {1, 1}, ".ESE.", "..SC."},
+        {"more new tiles in the column, nearer above", {}, {9, 8}, "..S..", ".CSA."},
+        {"as near, more new tiles at the left", {}, {8, 5}, ".CS..", "..S.."},
+        {"fixed all around", {{8, 7}, {8, 9}, {7, 8}, {9, 8}}, {1, 1}, ".ECE.", ".ECE."},
+    };
+    for (const Case& testCase : cases) {
+        SCOPED_TRACE(testCase.name);
+        Begin("CATSDOG");
+        for (const BoardPosition& at : testCase.fixed) FreezeTiles(at.row, at.col, "E");
+        PutTiles(8, 8, "C");
+        PutTiles(testCase.another.row, testCase.another.col, "A");
+        Drag(MiddleOfSlot(4), MiddleOfSquare(8, 8));
+        Run();
+        EXPECT_EQ(RowText(8, 6, 5), testCase.row);
+        EXPECT_EQ(ColumnText(8, 6, 5), testCase.column);
+        ExpectRack(testCase.row[2] == 'S' ? "..T.DOG." : "..TSDOG.");
+    }
+}
+
 TEST_F(Hand, AGroupThatCannotStayReturnsToWhereItCameFrom) {
     Begin("CATSDOG");
     for (int i = 0; i < 4; ++i) Drag(MiddleOfSlot(i + 1), MiddleOfSquare(5 + i, 2));

@@ -129,6 +129,7 @@ void CapturePointer() { BeginFollowingPointer(); }
 void ReleasePointer() {}
 
 PointerState WaitForPointer(std::uint32_t maxMilliseconds) {
+    if (headlessWindow.onPointerWait) headlessWindow.onPointerWait();
     DeliverDueEvents();
     if (const auto state = TakePointerEvent()) return *state;
     const bool comes = SleepUntilEvent(maxMilliseconds);

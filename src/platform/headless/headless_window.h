@@ -90,6 +90,8 @@ struct HeadlessWindow {
     std::vector<std::string> retryBoxes;
     std::deque<bool> retryAnswers;  // when they run out: Cancel
     std::uint32_t slept = 0;        // milliseconds in WaitForMessage
+    // Looks on whenever a loop that follows the pointer waits for it.
+    std::function<void()> onPointerWait;
 };
 
 inline HeadlessWindow headlessWindow;
