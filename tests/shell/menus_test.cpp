@@ -6,7 +6,9 @@
 #include <functional>
 
 #include "base/idle_pump.h"
+#include "data/scenarios.h"
 #include "game/validation.h"
+#include "shell/commands.h"
 #include "store/preferences.h"
 #include "support/running_program.h"
 #include "support/world.h"
@@ -149,6 +151,20 @@ TEST_F(Menus, StartWithTheFirstNamesWhenThePreferredOnesAreGone) {
     EXPECT_THAT(Ticked(514), ElementsAre("Common"));
     EXPECT_EQ(wordList.current.View(), "Common");
     EXPECT_EQ(ReadFile("Data/Prefs/3001.str"), "Common");
+}
+
+TEST_F(Menus, ListTheWordListThatAScenarioAsksFor) {
+    Start();
+    std::filesystem::copy_file(root / "Word Lists/Common.qld", root / "Word Lists/Extra.qld");
+    scenario.requestedWordList = "extra";
+    FollowScenarioWordList();
+    RefreshMenus();
+    EXPECT_THAT(Ticked(514), ElementsAre("Extra"));
+    EXPECT_EQ(ReadFile("Data/Prefs/3001.str"), "Words");
+    scenario.requestedWordList.Clear();
+    FollowScenarioWordList();
+    RefreshMenus();
+    EXPECT_THAT(Ticked(514), ElementsAre("Words"));
 }
 
 TEST_F(Menus, ChoosingWhatIsTickedDoesNothing) {
