@@ -12,7 +12,7 @@ int main(int argc, char** argv) {
     CLI::App app{"Quillet: a crossword tile game for one to four players."};
     RunOptions options;
     std::string dataFolder = FindDataFolder();
-    app.add_option("GAME", options.savedGame, "A saved game (.qlg) to go on with")->check(CLI::ExistingFile);
+    app.add_option("GAME", options.savedGame, "A saved game (.qlg) to go on with");
     app.add_option("--zoom", options.zoom, "How many times the window is enlarged")->check(CLI::Range(1, 8));
     app.add_option("--data", dataFolder, "The folder that holds \"Word Lists\", \"Scenarios\" and the others")
         ->check(CLI::ExistingDirectory);

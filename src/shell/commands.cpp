@@ -331,6 +331,9 @@ void OfferToSaveGame() {
     if (GameHasMoves() && AskYesNo(true, "Save current game?")) SaveGameCommand();
 }
 
-void FollowScenarioWordList() { ApplyScenarioWordList(scenario.requestedWordList); }
+void FollowScenarioWordList() {
+    // The list may have come into the folder since the menu was built.
+    if (ApplyScenarioWordList(scenario.requestedWordList)) BuildWordsMenu();
+}
 
 }  // namespace quillet

@@ -98,7 +98,9 @@ void Dispatch(const Message& message) {
         case Kind::ButtonDown:
             return HandleButton(message);
         case Kind::Command:
-            return DispatchCommand(message.command);
+            // What was chosen while another message waited may no longer be open to choice.
+            if (CanBeChosen(message.command)) DispatchCommand(message.command);
+            return;
         case Kind::ControlEvent:
             return HandleEditorControl(message);
         case Kind::Activated:
@@ -127,7 +129,7 @@ void IdlePump() {
         const bool before = std::exchange(shell.dispatchesWhileBusy, true);
         Dispatch(*message);
         shell.dispatchesWhileBusy = before;
-        RefreshMenus();
+        RefreshOptionTicks();
     }
     pump.nextPumpTick = TickCount() + kPumpInterval;
 }
@@ -164,7 +166,8 @@ bool IsSavedGame(std::string_view path) {
 }
 
 void LoadPreferredWordList() {
-    if (!SelectWordList(true, preferences.wordList)) Fatal("Sorry, but a word list could not be loaded.");
+    // The menu made it the first one listed when the preferred one is gone.
+    if (!SelectWordList(true, wordList.current)) Fatal("Sorry, but a word list could not be loaded.");
     FollowScenarioWordList();
 }
 

@@ -22,6 +22,13 @@
 namespace quillet {
 namespace {
 
+// A name as the text of an item, in which a single "&" would mark an access key.
+std::string ItemText(std::string_view name) {
+    std::string text;
+    for (char character : name) text.append(character == '&' ? 2 : 1, character);
+    return text;
+}
+
 // A menu's list of names, with commands from `firstCommand` on; one of them is the current one.
 struct NameList {
     MenuGroup group;
@@ -35,7 +42,8 @@ struct NameList {
             if (!RemoveMenuItem(CommandOf(i))) Warning("RemoveMenu failed!");
         }
         names = std::move(newNames);
-        for (std::size_t i = 0; i < names.size(); ++i) AppendMenuItem(group, CommandOf(i), names[i]);
+        for (std::size_t i = 0; i < names.size(); ++i)
+            AppendMenuItem(group, CommandOf(i), ItemText(names[i]));
     }
 
     std::string NameOf(int command) const {
@@ -97,17 +105,6 @@ constexpr EnablingRule kEnablingRules[] = {
     {512, [] { return !game.editorActive && WordIsRemembered(); }},
 };
 
-bool CanBeChosen(int command) {
-    const int group = command / 100;
-    if (group == kHelpMenu) return true;
-    if (group == kOptionsMenu || group == kSoundsMenu) return !game.editorActive && !menus.textOperation;
-    const auto rule = std::ranges::find(kEnablingRules, command, &EnablingRule::command);
-    const bool allowed = rule == std::end(kEnablingRules) || rule->canBeChosen();
-    // In the board editor its own commands, copying and pasting pictures, are all there is.
-    if (game.editorActive) return rule != std::end(kEnablingRules) && allowed;
-    return !menus.disabled && allowed;
-}
-
 // --- Ticks and texts ---
 
 struct TickRule {
@@ -126,16 +123,13 @@ constexpr TickRule kTickRules[] = {
     {1008, &Preferences::playByeBye},
 };
 
-void RefreshTicks() {
-    for (const TickRule& rule : kTickRules) {
-        CheckMenuItem(rule.command, preferences.*rule.preference != rule.inverted);
-    }
+void RefreshListTicks() {
     menus.scenarios.Check(CurrentScenario());
     menus.wordLists.Check(wordList.current);
 }
 
 void RefreshTexts() {
-    const std::string list = Quoted(wordList.current);
+    const std::string list = Quoted(ItemText(wordList.current));
     SetMenuText(503, "&Edit " + list + "...\tCtrl+E");
     SetMenuText(504, "&Revert " + list);
     SetMenuText(505, "&Save " + list);
@@ -159,7 +153,7 @@ void ForEachCommand(Visit visit) {
 void AppendHelpTopics() {
     int command = kFirstTopicCommand;
     for (const auto& topic : helpTopics) {
-        AppendMenuItem(kHelpMenu, IsSeparator(topic) ? 0 : command, topic);
+        AppendMenuItem(kHelpMenu, IsSeparator(topic) ? 0 : command, ItemText(topic));
         ++command;
     }
 }
@@ -211,9 +205,27 @@ void EnableMenus() {
 
 void SetTextOperation(bool running) { menus.textOperation = running; }
 
+bool CanBeChosen(int command) {
+    const int group = command / 100;
+    if (group == kHelpMenu) return true;
+    if (group == kOptionsMenu || group == kSoundsMenu) return !game.editorActive && !menus.textOperation;
+    const auto rule = std::ranges::find(kEnablingRules, command, &EnablingRule::command);
+    const bool allowed = rule == std::end(kEnablingRules) || rule->canBeChosen();
+    // In the board editor its own commands, copying and pasting pictures, are all there is.
+    if (game.editorActive) return rule != std::end(kEnablingRules) && allowed;
+    return !menus.disabled && allowed;
+}
+
+void RefreshOptionTicks() {
+    for (const TickRule& rule : kTickRules) {
+        CheckMenuItem(rule.command, preferences.*rule.preference != rule.inverted);
+    }
+}
+
 void RefreshMenus() {
     RefreshTexts();
-    RefreshTicks();
+    RefreshOptionTicks();
+    RefreshListTicks();
     ForEachCommand([](int command) { EnableMenuItem(command, CanBeChosen(command)); });
 }
 

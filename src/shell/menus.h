@@ -32,6 +32,12 @@ void EnableMenus();
 // A long operation on text files goes on: the options cannot be changed either.
 void SetTextOperation(bool running);
 
+// Is the item one that can be chosen, as things stand now?
+bool CanBeChosen(int command);
+
 void RefreshMenus();
+
+// The ticks of Options and Sounds alone: all that may change in the middle of a computation.
+void RefreshOptionTicks();
 
 }  // namespace quillet

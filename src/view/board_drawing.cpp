@@ -32,11 +32,11 @@ int ShownValue(LetterCode code) {
 void DrawFrameAndLines(const Rect& frame) {
     Canvas& canvas = WindowCanvas();
     canvas.Frame(frame, kWhite);
-    for (int row = 1; row < game.settings.boardRows; ++row) {
-        canvas.HorizontalLine(frame.left, frame.right, frame.top + row * At().pitch, kWhite);
+    for (int y = frame.top + At().pitch; y < frame.bottom - 1; y += At().pitch) {
+        canvas.HorizontalLine(frame.left, frame.right, y, kWhite);
     }
-    for (int col = 1; col < game.settings.boardCols; ++col) {
-        canvas.VerticalLine(frame.left + col * At().pitch, frame.top, frame.bottom, kWhite);
+    for (int x = frame.left + At().pitch; x < frame.right - 1; x += At().pitch) {
+        canvas.VerticalLine(x, frame.top, frame.bottom, kWhite);
     }
 }
 

@@ -70,7 +70,7 @@ Colour DrawInfoBackground() {
         return PanelColour();
     }
     canvas.Fill(At().infoTextArea, kBlack);
-    for (int ring = 3; ring < 9; ++ring) canvas.Frame(panel.Shrunk(ring), kWhite);
+    for (int ring = 0; ring < 6; ++ring) canvas.Frame(panel.Shrunk(ring), kWhite);  // all around the text
     return kWhite;
 }
 

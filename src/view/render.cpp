@@ -11,6 +11,7 @@
 #include "store/preferences.h"
 #include "view/board_drawing.h"
 #include "view/graphics.h"
+#include "view/palette.h"
 #include "view/panels.h"
 #include "view/view_state.h"
 
@@ -29,8 +30,9 @@ Rect Client() { return Rect::At({0, 0}, At().client); }
 
 void PaintSplash() {
     Canvas& canvas = WindowCanvas();
-    const std::optional<Picture> splash = LoadGraphicsPicture("splash.bmp");
+    std::optional<Picture> splash = LoadGraphicsPicture("splash.bmp");
     if (!splash) return;
+    FitToPalette(*splash);
     if (!At().bigBoard) {
         canvas.Draw(*splash, Client());
         return;
