@@ -82,7 +82,7 @@ std::optional<BagTile> ChooseTile(const Rect& viewRect, int slot, Point pointer)
     DragPicture picture(group);
     auto chosen = tiles.end();
     picture.Show(pointer);
-    WaitUntilClosed([&](Point p) {
+    const bool byHand = WaitUntilClosed([&](Point p) {
         const auto under =
             std::ranges::find_if(tiles, [&](const BagTile& tile) { return rectOf(tile).Contains(p); });
         if (under != chosen) {
@@ -94,7 +94,7 @@ std::optional<BagTile> ChooseTile(const Rect& viewRect, int slot, Point pointer)
         return kForever;
     });
     picture.Remove();
-    return chosen == tiles.end() ? std::nullopt : std::optional(*chosen);
+    return !byHand || chosen == tiles.end() ? std::nullopt : std::optional(*chosen);
 }
 
 }  // namespace

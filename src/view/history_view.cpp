@@ -136,9 +136,9 @@ void ShowHistoryView(int player) {
     if (!game.gameStarted) return;
     HistoryList list = MakeList(player);
     DrawList(list);
-    WaitUntilClosed([&](Point p) { return Follow(list, p); });
+    const bool byHand = WaitUntilClosed([&](Point p) { return Follow(list, p); });
     CloseView(list.rect, list.trigger);
-    if (list.picked != 0) GoToMove(HistoryRecord(player, list.picked));
+    if (byHand && list.picked != 0) GoToMove(HistoryRecord(player, list.picked));
 }
 
 }  // namespace quillet

@@ -61,7 +61,7 @@ void DrawPressedBox(const Rect& box) {
     WindowCanvas().Triangle({box.right - 8, box.top + 4}, 5, true, kWhite);
 }
 
-void WaitUntilClosed(const std::function<std::uint32_t(Point)>& follow) {
+bool WaitUntilClosed(const std::function<std::uint32_t(Point)>& follow) {
     CapturePointer();
     ReleaseRule rule;
     PointerState pointer{.at = PointerPosition(), .buttonDown = true};
@@ -69,6 +69,7 @@ void WaitUntilClosed(const std::function<std::uint32_t(Point)>& follow) {
         pointer = WaitForPointer(follow(pointer.at));
     } while (!rule.Closes(pointer));
     ReleasePointer();
+    return pointer.active;
 }
 
 void CloseView(const Rect& rect, const Rect& trigger) {

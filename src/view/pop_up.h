@@ -24,8 +24,8 @@ void DrawPressedBox(const Rect& box);
 // Waits until the view is to close: when the window is no longer active, when a button is let go after the
 // view has been open for a while, or at the next click when it was let go sooner. `follow` hears where the
 // pointer is, first at once and then at every move, and says for how long it may be left alone
-// (milliseconds).
-void WaitUntilClosed(const std::function<std::uint32_t(Point)>& follow);
+// (milliseconds). False when the window was left: nothing is then chosen.
+bool WaitUntilClosed(const std::function<std::uint32_t(Point)>& follow);
 
 // Takes the view off the window again.
 void CloseView(const Rect& rect, const Rect& trigger);

@@ -18,8 +18,8 @@ namespace quillet {
 // their places.
 struct TileGroup {
     LetterCode letter = 0;
-    int slot = 0;            // of the rack it came from, 1..8; 0: it came from the board
-    BoardPosition square{};  // of the board it came from
+    int slot = 0;              // of the rack it came from, 1..8; 0: it came from the board
+    BoardPosition square{};    // of the board it came from
     Text<kRackSize> before{};  // the tiles to its left or above it, nearest first
     Text<kRackSize> after{};
     bool alongColumn = false;       // how the group will be laid out; else along the row

@@ -130,8 +130,7 @@ TEST_F(BoardEditing, PicturesGoToTheClipboardAndComeFromIt) {
     Choose(kCopy);
     EXPECT_EQ(TakeBeeps(), 1) << "no picture";
     EXPECT_FALSE(FindMenuItem(kPaste)->enabled);
-    PostEvent({.kind = Message::Kind::Command, .command = kPaste});  // the clipboard was just emptied
-    Run();
+    PasteSquarePicture();  // the clipboard was just emptied
     EXPECT_THAT(TakeMessages(), ElementsAre("Nothing to paste!"));
     EXPECT_FALSE(graphics.squares[9]);
 
