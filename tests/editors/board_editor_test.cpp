@@ -1,6 +1,7 @@
 // The board editor in the main window, opened and left as a person does.
 #include <gmock/gmock.h>
 
+#include "editors/board_editor.h"
 #include "game/consistency.h"
 #include "resources/dialog_templates.h"
 #include "store/preferences.h"
