@@ -19,7 +19,7 @@ fs::path ProgramFolder() {
     return fs::read_symlink("/proc/self/exe", ignored).parent_path();
 }
 
-fs::path InstalledData(const fs::path& program) { return program / "../share/quillet"; }
+fs::path InstalledData(const fs::path& program) { return program / QUILLET_DATA_FROM_PROGRAM; }
 
 // The user's tree of an installed program.
 fs::path UserTree() {
