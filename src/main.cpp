@@ -15,8 +15,7 @@ namespace {
 // Gets the player's tree ready; false, when there is none to play with. Either way the player is told why.
 bool PrepareData(const quillet::DataPlace& place) {
     using namespace quillet;
-    std::error_code ignored;
-    if (std::filesystem::equivalent(place.shipped, place.own, ignored)) return true;
+    if (place.shipped == place.own) return true;
     const std::string problem = RefreshUserData(place.shipped, place.own);
     const bool isPlayable = HoldsData(place.own);
     if (!problem.empty()) {

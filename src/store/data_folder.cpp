@@ -76,6 +76,7 @@ DataPlace FindDataPlace() {
     for (const fs::path& shipped : {program, fs::path("assets"), fs::path(".")}) {
         if (HoldsData(shipped)) return {shipped, UserTree()};
     }
+    // What is missing will be told when it is wanted.
     return {".", "."};
 }
 
