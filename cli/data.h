@@ -8,8 +8,7 @@
 
 namespace quillet {
 
-// --data FOLDER. Without it: the current folder, its folder "assets", or the one that lies by the program,
-// whichever first holds word lists.
+// --data FOLDER. Without it what FindDataFolder finds.
 void AddDataOption(CLI::App& app);
 
 // Makes that scenario the one to play.

@@ -22,6 +22,7 @@ int main(int argc, char** argv) {
     using namespace quillet;
     CLI::App app{"Quillet from the terminal: games between computer players, move lists, word lists."};
     app.name("quillet-cli");
+    app.set_version_flag("--version", "quillet-cli " QUILLET_VERSION);
     app.require_subcommand(1);
     app.option_defaults()->always_capture_default();
     DetachPreferences();

@@ -71,13 +71,16 @@ void OpenGameCommand() {
     OpenGameFile(*path);
 }
 
-void SaveGameCommand() {
+// False when the game does not stand in a file.
+bool SaveGameAs() {
     const std::string proposed = gameFileName.empty() ? "untitled.qlg" : gameFileName;
-    if (const auto path = ChooseFileToSave(SavedGameFiles(), proposed)) {
-        gameFileName = FileTitle(*path);
-        SaveGame(*path);
-    }
+    const auto path = ChooseFileToSave(SavedGameFiles(), proposed);
+    if (!path) return false;
+    gameFileName = FileTitle(*path);
+    return SaveGame(*path);
 }
+
+void SaveGameCommand() { SaveGameAs(); }
 
 void ChoosePlayersCommand() {
     if (ConfirmCancel() && ChoosePlayers()) NewGame(true);
@@ -318,18 +321,21 @@ void HandleTypedCharacter(char character) {
     }
 }
 
-bool OpenGameFile(const std::string& path) {
+bool GoOnWithGame(const std::string& path) {
     if (!LoadGame(path)) return false;
     OpenGameReplay();
-    gameFileName = FileTitle(path);
     BuildScenarioMenu();
     FollowScenarioWordList();
     return true;
 }
 
-void OfferToSaveGame() {
-    if (GameHasMoves() && AskYesNo(true, "Save current game?")) SaveGameCommand();
+bool OpenGameFile(const std::string& path) {
+    if (!GoOnWithGame(path)) return false;
+    gameFileName = FileTitle(path);
+    return true;
 }
+
+bool OfferToSaveGame() { return !GameHasMoves() || !AskYesNo(true, "Save current game?") || SaveGameAs(); }
 
 void FollowScenarioWordList() {
     // The list may have come into the folder since the menu was built.

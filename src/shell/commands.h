@@ -20,8 +20,12 @@ void FinishTurnFromWindow();
 // Opens a saved game by its path in the file system. False after a warning.
 bool OpenGameFile(const std::string& path);
 
-// When a running game has moves and the person wants it kept, asks where and saves it.
-void OfferToSaveGame();
+// Likewise, but the file does not become the game's own: saving proposes another.
+bool GoOnWithGame(const std::string& path);
+
+// When a running game has moves and the person wants it kept, asks where and saves it. False when it was to
+// be saved and is not.
+bool OfferToSaveGame();
 
 // Follows the wish of the scenario for a word list, in the menu too.
 void FollowScenarioWordList();

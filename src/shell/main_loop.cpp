@@ -17,6 +17,7 @@
 #include "play/clock.h"
 #include "play/turns.h"
 #include "shell/commands.h"
+#include "shell/kept_game.h"
 #include "shell/menus.h"
 #include "store/preferences.h"
 #include "view/graphics.h"
@@ -43,8 +44,9 @@ Shell shell;
 
 void Close() {
     if (shell.dispatchesWhileBusy || game.editorActive) return Beep();
-    OfferToSaveGame();
+    const bool gameIsSafe = OfferToSaveGame();
     OfferToSaveWordList();
+    EndKeepingGame(gameIsSafe);
     if (preferences.playByeBye) PlaySoundFile(true, "quit.wav");
     RememberWindowPlace();
     DestroyMainWindow();
@@ -120,6 +122,7 @@ void Dispatch(const Message& message) {
 // Handles one message in the middle of a computation, and lets Escape stop that.
 void IdlePump() {
     if (preferences.timerEnabled) ClockTick();
+    KeepRunningGame();  // computers may play a whole game without coming back to the loop
     if (const std::optional<Message> message = PeekMessage()) {
         if (message->kind == Message::Kind::KeyDown && message->key == Key::Escape) {
             pump.abortRequested = true;
@@ -186,7 +189,9 @@ void StartProgram(const RunOptions& options) {
     ShowWaitCursor();
     ShowSplashForAWhile();
     pump.idleHook = IdlePump;
-    if (IsSavedGame(options.savedGame)) OpenGameFile(options.savedGame);
+    const bool isNamed = IsSavedGame(options.savedGame);
+    if (isNamed) OpenGameFile(options.savedGame);
+    StartKeepingGame(!isNamed);
     if (!wordList.loaded) LoadPreferredWordList();
 }
 
@@ -197,6 +202,7 @@ bool RunOnce() {
     }
     BlinkTick();
     if (preferences.timerEnabled) ClockTick();
+    KeepRunningGame();
     if (ComputerIsToMove()) {
         FinishTurnFromWindow();
         return true;

@@ -1,13 +1,45 @@
 #include "store/data_folder.h"
 
+#include <pwd.h>
+#include <unistd.h>
+
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <filesystem>
 #include <system_error>
 
 namespace quillet {
+namespace {
 
 namespace fs = std::filesystem;
+
+fs::path ProgramFolder() {
+    std::error_code ignored;
+    return fs::read_symlink("/proc/self/exe", ignored).parent_path();
+}
+
+fs::path InstalledData(const fs::path& program) { return program / QUILLET_DATA_FROM_PROGRAM; }
+
+// The user's tree of an installed program.
+fs::path UserTree() {
+    const char* dataHome = std::getenv("XDG_DATA_HOME");
+    if (dataHome != nullptr && dataHome[0] == '/') return fs::path(dataHome) / "quillet";
+    const char* home = std::getenv("HOME");
+    if (home == nullptr || home[0] != '/') {
+        const passwd* user = getpwuid(getuid());
+        home = user == nullptr ? "/" : user->pw_dir;
+    }
+    return fs::path(home) / ".local/share/quillet";
+}
+
+bool MayBePlayedIn(const fs::path& folder) {
+    std::error_code ignored;
+    return HoldsData(folder) && fs::is_directory(folder / "Data/Prefs", ignored) &&
+           access((folder / "Data/Prefs").c_str(), W_OK) == 0 && access(folder.c_str(), W_OK) == 0;
+}
+
+}  // namespace
 
 bool HoldsData(const std::string& folder) {
     std::error_code ignored;
@@ -15,17 +47,37 @@ bool HoldsData(const std::string& folder) {
 }
 
 std::string FindDataFolder() {
-    std::error_code ignored;
-    const fs::path program = fs::read_symlink("/proc/self/exe", ignored).parent_path();
+    const fs::path program = ProgramFolder();
+    const fs::path installed = InstalledData(program);
     const std::array candidates{fs::path("."),
                                 fs::path("assets"),
                                 program,
                                 program / "../../../assets",
                                 program / "../../assets",
-                                program / "../share/quillet"};
+                                HoldsData(installed) ? UserTree() : installed,
+                                installed};
     const auto found =
         std::ranges::find_if(candidates, [](const fs::path& folder) { return HoldsData(folder); });
     return found == candidates.end() ? "." : found->string();
+}
+
+DataPlace FindDataPlace() {
+    const fs::path program = ProgramFolder();
+    // A build within a checkout keeps the player's tree among what is built.
+    const std::array ofTheProgram{DataPlace{InstalledData(program), UserTree()},
+                                  DataPlace{program / "../../../assets", program / "../../data"},
+                                  DataPlace{program / "../../assets", program / "../data"}};
+    const auto place = std::ranges::find_if(ofTheProgram, HoldsData, &DataPlace::shipped);
+    const bool hasPlace = place != ofTheProgram.end();
+    std::error_code ignored;
+    if (MayBePlayedIn(".") && !(hasPlace && fs::equivalent(".", place->shipped, ignored))) return {".", "."};
+    if (hasPlace) return *place;
+    if (MayBePlayedIn(program)) return {program, program};
+    for (const fs::path& shipped : {program, fs::path("assets"), fs::path(".")}) {
+        if (HoldsData(shipped)) return {shipped, UserTree()};
+    }
+    // What is missing will be told when it is wanted.
+    return {".", "."};
 }
 
 }  // namespace quillet

@@ -1,12 +1,11 @@
 #include "store/files.h"
 
 #include <gmock/gmock.h>
-#include <signal.h>
-#include <sys/resource.h>
 #include <unistd.h>
 
 #include <cerrno>
 
+#include "support/full_disk.h"
 #include "support/temp_folder.h"
 
 namespace quillet {
@@ -25,25 +24,6 @@ class Files : public TempFolder {
         CloseFile(std::move(file));
         return text;
     }
-};
-
-// While one lives, no file of this process can grow beyond that size: a disk that is full.
-struct FullDisk {
-    explicit FullDisk(rlim_t bytes) {
-        getrlimit(RLIMIT_FSIZE, &old);
-        oldHandler = signal(SIGXFSZ, SIG_IGN);
-        const rlimit low{bytes, old.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &low);
-    }
-    ~FullDisk() {
-        setrlimit(RLIMIT_FSIZE, &old);
-        signal(SIGXFSZ, oldHandler);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-    rlimit old{};
-    sighandler_t oldHandler = nullptr;
 };
 
 TEST_F(Files, ReadCharFoldsCrLfAndNothingElse) {

@@ -177,7 +177,11 @@ void TakeWantedSize(DialogWindow& window) {
 void Open(Dialog& dialog, const DialogTemplate& dialogTemplate) {
     const Setting setting(dialog);
     dialog.window = std::make_unique<DialogWindow>(dialog, DialogParent());
-    dialog.window->setWindowTitle(ToQString(dialogTemplate.title));
+    const QString title = ToQString(dialogTemplate.title);
+    dialog.window->setWindowTitle(title);
+    // Wide enough for the title beside the buttons of its bar.
+    constexpr int kTitleButtons = 140;
+    dialog.window->setMinimumWidth(dialog.window->fontMetrics().horizontalAdvance(title) + kTitleButtons);
     dialog.window->middle = dialogTemplate.middle;
     AddControls(dialog, dialogTemplate.controls);
 }
