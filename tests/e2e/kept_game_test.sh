@@ -1,0 +1,59 @@
+#!/usr/bin/env bash
+# Kills Quillet in the middle of a game and starts it again: it asks whether to go on, and does.
+#   kept_game_test.sh PROGRAM ASSETS
+set -euo pipefail
+source "$(dirname "${BASH_SOURCE[0]}")/desktop.sh"
+
+program=$1 assets=$2
+start_desktop 1100x800
+data=$work/data
+mkdir "$data"
+cp -r "$assets"/. "$data"
+kept=$data/Data/Prefs/Running.qlg
+bag=(183 34)
+first_slot=(347 29)
+
+kill_quillet() {
+    kill -9 "$quillet_pid"
+    wait "$quillet_pid" 2>/dev/null || true
+}
+
+start_quillet
+keys ctrl+n
+dialog_is "Choose Players"
+type_text Ann
+keys Return
+wait_for 5 has_focus Quillet || fail "the game did not start"
+drag "${first_slot[@]}" "${bag[@]}"
+keys 0
+wait_for 10 grep -q '^moves = 1' "$kept" || fail "the game is not kept"
+before=$(cat "$kept")
+kill_quillet
+
+start_quillet
+has_left_window || fail "no question"
+picture question
+keys Return
+wait_for 5 has_focus Quillet
+sleep 0.5
+is_light $((first_slot[0] - 10)) $((first_slot[1] - 10)) || fail "the game did not go on"
+picture went_on
+[[ $(cat "$kept") == "$before" ]] || fail "the kept game is another"
+
+# A second program leaves it alone.
+first_pid=$quillet_pid
+"$program" --data "$data" --zoom 1 >"$work/second.log" 2>&1 &
+quillet_pid=$!
+sleep 3
+[[ $(xdotool search --onlyvisible --name '^Quillet$' | wc -l) == 2 ]] || fail "the second program asks about the first's game"
+kill_quillet
+quillet_pid=$first_pid
+
+# A proper end, not saving.
+xdotool windowactivate --sync "$window" sleep 0.3
+keys ctrl+q
+dialog_opens
+keys alt+n
+wait_for 10 test ! -d /proc/"$quillet_pid" || fail "Quillet did not end"
+[[ ! -e $kept ]] || fail "the kept game stayed"
+echo "kept, asked, gone on, ended: all as it should be"
