@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QSpacerItem>
 #include <QTimer>
 #include <algorithm>
 #include <list>
@@ -110,6 +111,10 @@ struct Rows {
 
 Rows MakeRows(QDialog& window) {
     auto* whole = new QVBoxLayout(&window);
+    // Wide enough for the title beside the buttons of its bar.
+    constexpr int kTitleButtons = 120;
+    const int titleWidth = window.fontMetrics().horizontalAdvance(window.windowTitle());
+    whole->addItem(new QSpacerItem(titleWidth + kTitleButtons, 0, QSizePolicy::Minimum, QSizePolicy::Fixed));
     const Rows rows{.grid = new QGridLayout, .buttons = new QHBoxLayout};
     whole->addLayout(rows.grid);
     whole->addLayout(rows.buttons);
@@ -177,11 +182,7 @@ void TakeWantedSize(DialogWindow& window) {
 void Open(Dialog& dialog, const DialogTemplate& dialogTemplate) {
     const Setting setting(dialog);
     dialog.window = std::make_unique<DialogWindow>(dialog, DialogParent());
-    const QString title = ToQString(dialogTemplate.title);
-    dialog.window->setWindowTitle(title);
-    // Wide enough for the title beside the buttons of its bar.
-    constexpr int kTitleButtons = 140;
-    dialog.window->setMinimumWidth(dialog.window->fontMetrics().horizontalAdvance(title) + kTitleButtons);
+    dialog.window->setWindowTitle(ToQString(dialogTemplate.title));
     dialog.window->middle = dialogTemplate.middle;
     AddControls(dialog, dialogTemplate.controls);
 }
