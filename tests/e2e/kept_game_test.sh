@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
 # Kills Quillet in the middle of a game and starts it again: it asks whether to go on, and does.
-#   kept_game_test.sh PROGRAM ASSETS
+#   kept_game_test.sh PROGRAM COMPANION ASSETS
 set -euo pipefail
 source "$(dirname "${BASH_SOURCE[0]}")/desktop.sh"
 
-program=$1 assets=$2
+program=$1 assets=$3
 start_desktop 1100x800
 data=$work/data
 mkdir "$data"
