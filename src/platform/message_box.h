@@ -8,7 +8,8 @@ namespace quillet {
 
 enum class BoxKind : std::uint8_t { Information, Warning, Fatal };
 
-// Sounds the beep of its kind and shows the text with its icon and one button: "OK", or "Quit" in a fatal one.
+// Sounds the beep of its kind and shows the text with its icon and one button: "OK", or "Quit" in a fatal
+// one.
 void ShowMessageBox(BoxKind kind, std::string_view title, std::string_view text);
 
 // Shows the text with the buttons Yes and No; true only for Yes.

@@ -90,10 +90,8 @@ void ChoosePlayersCommand() {
 
 // A computer that is now to move must not move again at once.
 void LetComputerWait() {
-    if (game.Current().isComputer && !preferences.tellComputerToMove) {
-        FlipPreference(&Preferences::tellComputerToMove);
-        ShowMoveButtonPlainly();
-    }
+    MakeComputerWait();
+    ShowMoveButtonPlainly();
 }
 
 void UndoCommand() {

@@ -14,7 +14,6 @@
 #include "platform/clipboard.h"
 #include "platform/menu.h"
 #include "resources/menus.h"
-#include "store/files.h"
 #include "store/preferences.h"
 #include "words/dict.h"
 #include "words/word_list_file.h"
@@ -176,8 +175,6 @@ void BuildScenarioMenu() {
 }
 
 void BuildWordsMenu() {
-    const std::string_view folder = ResourceString(StringId::WordListsFolder);
-    if (!FolderExists(folder)) Fatal("Sorry, but the ", folder, " folder is missing!");
     std::vector<std::string> names = ListWordLists();
     if (names.empty()) {
         if (!NewWordListDialog()) Fatal("Sorry, but there are no word lists!");

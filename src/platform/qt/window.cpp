@@ -81,8 +81,8 @@ void SleepUntil(const QDeadlineTimer& deadline) {
 
 void Nap(const QDeadlineTimer& deadline) {
     constexpr qint64 kLongest = 10;
-    // What the person does becomes messages, which wait. Left out here, it could stay unseen: the toolkit looks at
-    // events it has put off only when another one comes.
+    // What the person does becomes messages, which wait. Left out here, it could stay unseen: the toolkit
+    // looks at events it has put off only when another one comes.
     QCoreApplication::processEvents();
     QThread::msleep(static_cast<unsigned long>(std::min(deadline.remainingTime(), kLongest)));
 }
