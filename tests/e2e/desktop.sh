@@ -89,11 +89,17 @@ keys() { xdotool key --delay 60 "$@" sleep 0.2; }
 type_text() { xdotool type --delay 25 "$1" && sleep 0.2; }
 
 # Waits until something else than the main window has the focus.
-dialog_opens() { wait_for 5 has_left_window || fail "no dialog"; }
+dialog_opens() {
+    wait_for 5 has_left_window || fail "no dialog"
+    sleep 0.4 # until the keyboard has followed
+}
 has_left_window() { [[ $(xdotool getactivewindow) != "$window" ]]; }
 
 # dialog_is TITLE: waits until that dialog has the focus.
-dialog_is() { wait_for 5 has_focus "$1" || fail "no dialog \"$1\""; }
+dialog_is() {
+    wait_for 5 has_focus "$1" || fail "no dialog \"$1\""
+    sleep 0.4
+}
 has_focus() { [[ $(xdotool getactivewindow getwindowname) == "$1" ]]; }
 
 picture() { # NAME: of the window, kept when a folder for pictures is named
