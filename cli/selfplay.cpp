@@ -25,7 +25,7 @@ struct SelfplayOptions {
     std::vector<std::string> players{"Ada 9", "Bo 5"};
     int games = 1;
     std::uint32_t seed = 1;
-    std::string scenario = "Standard";
+    std::string scenario = "Classic";
     std::string words;
     std::string squares;
     std::string saveFolder;

@@ -25,7 +25,7 @@ void ReadHistory() {
 
 void SetUp() {
     DetachPreferences();
-    for (const char* name : {"Standard", "Quick Nine"}) {
+    for (const char* name : {"Classic", "Quick Nine"}) {
         const std::string folder = std::string("Scenarios/") + name;
         MakeFolder(folder);
         WriteFile(folder + "/12345.str", "1");

@@ -121,8 +121,8 @@ TEST_F(CliTest, CheckNamesEachProblemOfADataFolder) {
     WriteFile("Scenarios/Duel/301.str", "999");
     WriteFile("Scenarios/Kitchen/402.str", "...");
     WriteFile("Scenarios/Kitchen/602.str", "FORK\r\nSPOON2\r\n");
-    WriteFile("Scenarios/Standard/700.str", "Nowhere");
-    WriteFile("Scenarios/Standard/500.str", "99");
+    WriteFile("Scenarios/Classic/700.str", "Nowhere");
+    WriteFile("Scenarios/Classic/500.str", "99");
     WriteFile("Scenarios/Diamond/12345.str", "7");
     WriteFile("Opponents/Pip/300.str", "Gone");
     WriteFile("Opponents/Pip/9001.bmp", "BM, but no picture");
@@ -133,8 +133,8 @@ TEST_F(CliTest, CheckNamesEachProblemOfADataFolder) {
     for (const char* problem :
          {"Word Lists\\Common: Common: edge ", "Word Lists\\Large: \"Large\" ended unexpectedly!",
           "Scenarios\\Duel: Too few letters!", "Scenarios\\Kitchen: board squares (402.str): 3 characters",
-          "Scenarios\\Kitchen: a bonus word", "Scenarios\\Standard: asks for the unknown word list Nowhere",
-          "Scenarios\\Standard: the start square", "Scenarios\\Diamond: Unexpected version in scenario!",
+          "Scenarios\\Kitchen: a bonus word", "Scenarios\\Classic: asks for the unknown word list Nowhere",
+          "Scenarios\\Classic: the start square", "Scenarios\\Diamond: Unexpected version in scenario!",
           "Opponents\\Pip: has the unknown word list Gone", "Opponents\\Pip: Could not read bitmap header",
           "Q.txt, line 2: QUIET must come before QUIT", "Q.txt, line 3: must be a word",
           "Data\\Help\\Playing.txt: is missing"}) {

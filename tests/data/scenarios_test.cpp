@@ -187,7 +187,7 @@ TEST_F(Scenarios, ShippedOnesAreSoundAndPlayToTheEnd) {
         std::filesystem::copy(assets / folder, root / folder, std::filesystem::copy_options::recursive);
     }
     const std::vector<std::string> names = ListScenarios();
-    EXPECT_EQ(std::ranges::count(names, "Standard"), 1);
+    EXPECT_EQ(std::ranges::count(names, "Classic"), 1);
     EXPECT_GE(names.size(), 8U);
     for (const std::string& name : names) {
         SCOPED_TRACE(name);

@@ -40,7 +40,7 @@ wait_for 10 test ! -d /proc/"$quillet_pid" || fail "Quillet did not end"
 # --- A game of two, from a file with known racks ---
 
 printf F >"$data/Data/Prefs/1016.str" # no tile clicks
-"$companion" --data "$data" selfplay --players "A 1" "B 1" --games 1 --scenario Standard --save "$work/games" >"$work/selfplay.log"
+"$companion" --data "$data" selfplay --players "A 1" "B 1" --games 1 --scenario Classic --save "$work/games" >"$work/selfplay.log"
 sed -e 's/^players = .*/players = Ann Bob\r/' -e 's/^p1 start = .*/p1 start = CATERS[\r/' \
     -e 's/^p2 start = .*/p2 start = QUIZDOG\r/' -e 's/^moves = .*/moves = 1\r/' \
     -e '/^[0-9]\+ = /d' "$work"/games/*.qlg >"$work/known.qlg"

@@ -125,7 +125,7 @@ TEST_F(BoardEditing, FewerRowsHideSquaresAndKeepThem) {
 }
 
 TEST_F(BoardEditing, PicturesGoToTheClipboardAndComeFromIt) {
-    Remove("Scenarios/Standard/b301.bmp");
+    Remove("Scenarios/Classic/b301.bmp");
     BeginEditing();
     Select(9);
     Choose(kCopy);
@@ -188,7 +188,7 @@ TEST_F(BoardEditing, CancelBringsBackTheBoardThePicturesAndTheGame) {
     EXPECT_EQ(RackOf(1), "TSDOG");
     EXPECT_EQ(graphics.squares[1]->image, picture);
     EXPECT_EQ(FindInconsistency(game), std::nullopt);
-    EXPECT_EQ(ReadItems("Scenarios/Standard", {400, 500, 501}), "15|8|8|");
+    EXPECT_EQ(ReadItems("Scenarios/Classic", {400, 500, 501}), "15|8|8|");
     TypeText("T");
     Run();
     EXPECT_TRUE(game.board[8][10].IsPlaced()) << "the game goes on";
@@ -207,22 +207,22 @@ TEST_F(BoardEditing, SaveWritesTheScenarioAndStartsAGame) {
     PressButton(kSave);
     EXPECT_THAT(TakeMessages(), ElementsAre("There is no starting square!"));
     ASSERT_TRUE(game.editorActive);
-    EXPECT_EQ(ReadItems("Scenarios/Standard", {400, 401, 500, 501}), "15|15|8|8|");
+    EXPECT_EQ(ReadItems("Scenarios/Classic", {400, 401, 500, 501}), "15|15|8|8|");
 
     ChooseCount(kColumnsList, 13);
     Select(14);
     ClickSquare(8, 8);
     headlessWindow.clipboard = Image(26, 26, 0x123456);
     Choose(kPaste);
-    const std::string otherPicture = ReadFile("Scenarios/Standard/b306.bmp");
+    const std::string otherPicture = ReadFile("Scenarios/Classic/b306.bmp");
     PressButton(kSave);
     EXPECT_THAT(TakeMessages(), ElementsAre());
     EXPECT_FALSE(game.editorActive);
     EXPECT_TRUE(headlessWindow.windowControls.empty());
-    EXPECT_EQ(ReadItems("Scenarios/Standard", {400, 401, 500, 501}), "11|13|8|5|");
-    EXPECT_EQ(ReadFile("Scenarios/Standard/402.str"), SquaresText());
+    EXPECT_EQ(ReadItems("Scenarios/Classic", {400, 401, 500, 501}), "11|13|8|5|");
+    EXPECT_EQ(ReadFile("Scenarios/Classic/402.str"), SquaresText());
     EXPECT_EQ(SquaresText()[7 * 15 + 7], '6');
-    EXPECT_NE(ReadFile("Scenarios/Standard/b306.bmp"), otherPicture);
+    EXPECT_NE(ReadFile("Scenarios/Classic/b306.bmp"), otherPicture);
     EXPECT_TRUE(game.IsRunning());
     EXPECT_EQ(game.history.movesCount, 0);
     EXPECT_EQ(game.players[1].score, 0);

@@ -129,7 +129,7 @@ TEST_F(LettersEditing, ABadBonusKeepsTheDialogOpen) {
 
 TEST_F(LettersEditing, OnlySaveChangesTheScenario) {
     const GameSettings before = game.settings;
-    const auto items = [&] { return ReadItems("Scenarios/Standard", {300, 301, 350}); };
+    const auto items = [&] { return ReadItems("Scenarios/Classic", {300, 301, 350}); };
     const std::string itemsBefore = items();
     const auto change = [&](Dialog& dialog) {
         EXPECT_EQ(dialog.focus, kCancelId);

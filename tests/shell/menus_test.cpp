@@ -147,7 +147,7 @@ TEST_F(Menus, StartWithTheFirstNamesWhenThePreferredOnesAreGone) {
     RememberScenario("Gone");
     Start();
     EXPECT_THAT(TakeMessages(), ElementsAre());
-    EXPECT_THAT(Ticked(205), ElementsAre("Quick Nine"));
+    EXPECT_THAT(Ticked(205), ElementsAre("Classic"));
     EXPECT_THAT(Ticked(514), ElementsAre("Common"));
     EXPECT_EQ(wordList.current.View(), "Common");
     EXPECT_EQ(ReadFile("Data/Prefs/3001.str"), "Common");
@@ -170,7 +170,7 @@ TEST_F(Menus, ListTheWordListThatAScenarioAsksFor) {
 TEST_F(Menus, ChoosingWhatIsTickedDoesNothing) {
     StartGame({"Ann", "Bob"});
     game.history.movesCount = 1;
-    for (int command : {206, 515}) {
+    for (int command : {205, 515}) {
         ASSERT_TRUE(FindMenuItem(command)->checked);
         ChooseMenuItem(command);
     }
@@ -179,12 +179,12 @@ TEST_F(Menus, ChoosingWhatIsTickedDoesNothing) {
     EXPECT_TRUE(headless.questions.empty());
     EXPECT_TRUE(headlessWindow.dialogsShown.empty());
     EXPECT_EQ(game.history.movesCount, 1);
-    ChooseMenuItem(205);
+    ChooseMenuItem(206);
     Run();
     ASSERT_EQ(headless.questions.size(), 1U);
     EXPECT_EQ(headless.questions[0].text, "Cancel the current game?");
     EXPECT_FALSE(headless.questions[0].yesIsDefault);
-    EXPECT_THAT(Ticked(205), ElementsAre("Standard"));
+    EXPECT_THAT(Ticked(205), ElementsAre("Classic"));
 }
 
 // A key pressed right after the click on DONE stands behind it in the queue; by then a computation goes on.

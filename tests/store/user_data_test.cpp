@@ -16,8 +16,8 @@ using testing::HasSubstr;
 class UserData : public TempFolder {
   protected:
     UserData() {
-        Ship("Scenarios/Standard/8300.str", "values");
-        Ship("Scenarios/Standard/8301.str", "counts");
+        Ship("Scenarios/Classic/8300.str", "values");
+        Ship("Scenarios/Classic/8301.str", "counts");
         Ship("Scenarios/Kitchen/8300.str", "kitchen");
         Ship("Word Lists/Words.qld", "words");
         Ship("Opponents/Pip/203.str", "pip");
@@ -47,7 +47,7 @@ class UserData : public TempFolder {
 
 TEST_F(UserData, FirstStartCopiesWhatMayChangeAndLinksWhatIsOnlyRead) {
     EXPECT_EQ(Start(), "");
-    EXPECT_EQ(Own("Scenarios/Standard/8300.str"), "values");
+    EXPECT_EQ(Own("Scenarios/Classic/8300.str"), "values");
     EXPECT_EQ(Own("Word Lists/Words.qld"), "words");
     EXPECT_EQ(Own("Opponents/Pip/203.str"), "pip");
     EXPECT_EQ(Own("Data/Sounds/start.wav"), "wave");
@@ -72,13 +72,13 @@ TEST_F(UserData, ReadOnlyShippedFilesMayBeChangedInTheTree) {
 
 TEST_F(UserData, UpgradeReplacesOnlyWhatTheUserLeftAlone) {
     Start();
-    Edit("Scenarios/Standard/8301.str", "mine");
+    Edit("Scenarios/Classic/8301.str", "mine");
     Edit("Scenarios/My Board/8300.str", "board");
     Edit("Data/Prefs/1000.str", "T");
     Discard("Scenarios/Kitchen");
-    Ship("Scenarios/Standard/8300.str", "VALUES");
-    Ship("Scenarios/Standard/8301.str", "COUNTS");
-    Ship("Scenarios/Standard/8302.str", "new");
+    Ship("Scenarios/Classic/8300.str", "VALUES");
+    Ship("Scenarios/Classic/8301.str", "COUNTS");
+    Ship("Scenarios/Classic/8302.str", "new");
     Ship("Scenarios/Kitchen/8300.str", "KITCHEN");
     Ship("Scenarios/Kitchen/8301.str", "new");
     Ship("Scenarios/My Board/8300.str", "shipped");
@@ -87,9 +87,9 @@ TEST_F(UserData, UpgradeReplacesOnlyWhatTheUserLeftAlone) {
     fs::remove_all(root / "shipped/Opponents/Pip");
     Edit("Opponents/Pip/300.str", "Words");
     EXPECT_EQ(Start(), "");
-    EXPECT_EQ(Own("Scenarios/Standard/8300.str"), "VALUES");
-    EXPECT_EQ(Own("Scenarios/Standard/8301.str"), "mine");
-    EXPECT_EQ(Own("Scenarios/Standard/8302.str"), "new");
+    EXPECT_EQ(Own("Scenarios/Classic/8300.str"), "VALUES");
+    EXPECT_EQ(Own("Scenarios/Classic/8301.str"), "mine");
+    EXPECT_EQ(Own("Scenarios/Classic/8302.str"), "new");
     EXPECT_FALSE(fs::exists(root / "own/Scenarios/Kitchen"));
     EXPECT_EQ(Own("Scenarios/My Board/8300.str"), "board");
     EXPECT_EQ(Own("Scenarios/Duel/8300.str"), "duel");
@@ -98,10 +98,10 @@ TEST_F(UserData, UpgradeReplacesOnlyWhatTheUserLeftAlone) {
     EXPECT_EQ(Own("Opponents/Pip/203.str"), "<none>");
     EXPECT_EQ(Own("Opponents/Pip/300.str"), "Words");
     // What was kept back stays so at the upgrades to come.
-    Ship("Scenarios/Standard/8301.str", "COUNTS 2");
+    Ship("Scenarios/Classic/8301.str", "COUNTS 2");
     Ship("Scenarios/Kitchen/8302.str", "newer");
     EXPECT_EQ(Start(), "");
-    EXPECT_EQ(Own("Scenarios/Standard/8301.str"), "mine");
+    EXPECT_EQ(Own("Scenarios/Classic/8301.str"), "mine");
     EXPECT_FALSE(fs::exists(root / "own/Scenarios/Kitchen"));
 }
 
@@ -129,10 +129,10 @@ TEST_F(UserData, DamagedListCostsNothing) {
     for (const std::string list : {"", "nonsense", "Quillet's shipped files, 1\nzz 1:2 Scenarios/x\n",
                                    "Quillet's shipped files, 1\n1 2 ../shipped/Word Lists/Words.qld\n"}) {
         Start();
-        Edit("Scenarios/Standard/8301.str", "mine");
+        Edit("Scenarios/Classic/8301.str", "mine");
         WriteFile("own/.shipped", list);
         EXPECT_EQ(Start(), "") << list;
-        EXPECT_EQ(Own("Scenarios/Standard/8301.str"), "mine") << list;
+        EXPECT_EQ(Own("Scenarios/Classic/8301.str"), "mine") << list;
         EXPECT_EQ(Own("Word Lists/Words.qld"), "words") << list;
         EXPECT_EQ(ReadFile("shipped/Word Lists/Words.qld"), "words") << list;
     }
@@ -158,7 +158,7 @@ TEST_F(UserData, FullDiskIsToldOnceAndCostsNothing) {
     EXPECT_THAT(Everything("own"), testing::IsEmpty());
     EXPECT_EQ(Start(), "");
     const auto before = Everything("own");
-    Ship("Scenarios/Standard/8300.str", "VALUES");
+    Ship("Scenarios/Classic/8300.str", "VALUES");
     Ship("Scenarios/Zoo/8300.str", std::string(100'000, 'z'));
     {
         const FullDisk disk(50'000);
@@ -166,7 +166,7 @@ TEST_F(UserData, FullDiskIsToldOnceAndCostsNothing) {
     }
     EXPECT_EQ(Everything("own"), before);
     EXPECT_EQ(Start(), "");
-    EXPECT_EQ(Own("Scenarios/Standard/8300.str"), "VALUES");
+    EXPECT_EQ(Own("Scenarios/Classic/8300.str"), "VALUES");
 }
 
 TEST_F(UserData, TreeThatCannotBeMadeIsTold) {

@@ -39,7 +39,7 @@ RunningProgram::RunningProgram() {
                       root / "Word Lists" / (std::string(name) + ".qld"));
     }
     for (const char* folder :
-         {"Scenarios/Standard", "Scenarios/Quick Nine", "Opponents/Pip", "Opponents/Strix"}) {
+         {"Scenarios/Classic", "Scenarios/Quick Nine", "Opponents/Pip", "Opponents/Strix"}) {
         fs::copy(kAssets / folder, root / folder);
     }
     WriteFile("Data/Help/HELPITEMS.txt", "Tips\r\n");
@@ -61,7 +61,7 @@ void RunningProgram::Start(const std::string& savedGame) {
 }
 
 void RunningProgram::StartGame(std::initializer_list<std::string_view> names) {
-    RememberScenario("Standard");
+    RememberScenario("Classic");
     WritePlayerNames(std::vector<PlayerName>(names.begin(), names.end()));
     Start();
     ChooseMenuItem(1);

@@ -14,7 +14,7 @@
 
 namespace quillet {
 
-// The program in a data folder of its own: the shipped pictures, the scenarios "Standard" and "Quick Nine",
+// The program in a data folder of its own: the shipped pictures, the scenarios "Classic" and "Quick Nine",
 // the word lists "Words" and "Common" (both the shipped Common list), the opponents Pip and Strix, and
 // preferences as they are at the very first start, but for tile clicks, which are off.
 class RunningProgram : public TempFolder {
