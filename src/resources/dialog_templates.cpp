@@ -160,7 +160,7 @@ constexpr auto kEditWordList =
                       ControlTemplate{.id = WordEditorControls::kTotal, .cell = {0, 1}}},
            WordAndList(1),
            std::array{Button(WordEditorControls::kDefine, "D&efine", {5, 1}),
-                      Button(kOkId, "OK", {.row = kButtonRow, .column = 0}), Cancel()});
+                      Button(kOkId, "&OK", {.row = kButtonRow, .column = 0}), Cancel()});
 
 constexpr auto kEditBonusWords =
     Joined(std::array{Check(WordEditorControls::kEnabled, "&Enabled", {0, 0, 1, 2}),

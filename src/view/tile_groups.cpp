@@ -375,6 +375,7 @@ void PlaceTile(BoardPosition at, LetterCode letter) {
     Square& square = SquareOf(at);
     square.state = SquareState::Placed;
     square.letter = letter;
+    square.blankLetter = 0;
     DrawBoardTile(at.row, at.col, letter);
 }
 

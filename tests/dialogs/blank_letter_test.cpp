@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "base/presentation.h"
+#include "game/game_state.h"
 #include "support/dialog_test.h"
 #include "view/render.h"
 
@@ -33,6 +34,12 @@ TEST_F(BlankLetter, IsTheLastOneTypedAndOneOfTheAlphabet) {
     EXPECT_THAT(recorded.calls, ElementsAre("MarkSquareAsked 8 5", "UnmarkSquareAsked 8 5"));
     InDialog([](Dialog& dialog) { TypeText(dialog, kLetter, "A"); });
     EXPECT_EQ(AskBlankLetter(8, 5), std::nullopt) << "cancelled";
+    game.board[8][5].blankLetter = 'J';
+    InDialog([](Dialog& dialog) {
+        EXPECT_EQ(EditText(dialog, kLetter), "[J]") << "known from a hint";
+        PressControl(dialog, kOkId);
+    });
+    EXPECT_EQ(AskBlankLetter(8, 5), 'J');
 }
 
 }  // namespace

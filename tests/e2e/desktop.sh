@@ -1,6 +1,16 @@
 # Sourced by the end-to-end tests: a virtual display with a window manager, and a person's hand and eyes on it.
 # shellcheck shell=bash
 
+# start_story PROGRAM COMPANION ASSETS: a desktop, and data of its own for the program in $data.
+start_story() {
+    program=$1 companion=$2 assets=$3
+    start_desktop 1100x800
+    data=$work/data
+    kept=$data/Data/Prefs/Running.qlg
+    mkdir "$data"
+    cp -r "$assets"/. "$data"
+}
+
 # start_desktop WIDTHxHEIGHT: a display of its own; it ends with the script.
 start_desktop() {
     local number_file
@@ -93,6 +103,7 @@ dialog_opens() {
     wait_for 5 has_left_window || fail "no dialog"
     sleep 0.4 # until the keyboard has followed
 }
+window_is_back() { ! has_left_window; }
 has_left_window() { [[ $(xdotool getactivewindow) != "$window" ]]; }
 
 # dialog_is TITLE: waits until that dialog has the focus.
@@ -102,10 +113,25 @@ dialog_is() {
 }
 has_focus() { [[ $(xdotool getactivewindow getwindowname) == "$1" ]]; }
 
+# dialog_ends TITLE
+dialog_ends() { wait_for 30 lost_focus "$1" || fail "\"$1\" stays open"; }
+lost_focus() { ! has_focus "$1"; }
+
+# menu KEY KEY...: chooses a command by the access keys of its menu and its line.
+menu() {
+    keys "alt+$1"
+    shift
+    keys "$@"
+}
+
 picture() { # NAME: of the window, kept when a folder for pictures is named
     [[ -z ${QUILLET_E2E_PICTURES:-} ]] && return
     import -window root -crop "${canvas_width}x${canvas_height}+$canvas_x+$canvas_y" +repage \
         "$QUILLET_E2E_PICTURES/$1.png"
+}
+
+screen() { # NAME: of all that is on the display, likewise
+    [[ -z ${QUILLET_E2E_PICTURES:-} ]] || import -window root "$QUILLET_E2E_PICTURES/$1.png"
 }
 
 # colour_at X Y: "RRGGBB" of a point of the canvas.
@@ -119,4 +145,41 @@ is_light() {
     local colour
     colour=$(colour_at "$1" "$2")
     ((16#${colour:0:2} > 200 && 16#${colour:2:2} > 190))
+}
+
+# has_tile X Y: does a tile lie on the square or slot with that middle?
+has_tile() { is_light $(($1 - 11)) $(($2 - 11)); }
+
+# --- Places of the big board with the rack above ---
+
+slot_x() { echo $((333 + ($1 - 1) * 27 + 14)); }
+slot_y=29
+col_x() { echo $((239 + ($1 - 1) * 27 + 14)); }
+row_y() { echo $((59 + ($1 - 1) * 27 + 14)); }
+player_y() { echo $((257 + ($1 - 1) * 14)); }
+done_button=(276 28)
+bag=(183 34)
+info_panel=(110 130)
+bag_box=(117 34)
+statistics_box=(217 412)
+bonus_words_box=(217 342)
+
+square() { echo "$(col_x "$2")" "$(row_y "$1")"; } # ROW COLUMN
+# shellcheck disable=SC2046
+drag_to_square() { drag "$(slot_x "$1")" $slot_y $(square "$2" "$3"); } # SLOT ROW COLUMN
+press_done() { click_at "${done_button[@]}"; }
+
+# take_turn TURN: the computer moves, or the person makes the highest scoring move; until the kept game shows it. Keys
+# are lost while a computer player is congratulated or letters are thrown back, so it is tried again, slower.
+take_turn() {
+    local pause
+    for pause in 0.6 2 2 2 2; do
+        keys 8
+        sleep $pause
+        keys 0
+        sleep 0.4
+        while has_left_window; do keys Return sleep 0.3; done # a blank's letter, as proposed
+        wait_for 2 grep -q "^moves = $1" "$kept" && return
+    done
+    fail "move $1 was not made"
 }

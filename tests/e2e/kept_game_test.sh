@@ -4,14 +4,7 @@
 set -euo pipefail
 source "$(dirname "${BASH_SOURCE[0]}")/desktop.sh"
 
-program=$1 assets=$3
-start_desktop 1100x800
-data=$work/data
-mkdir "$data"
-cp -r "$assets"/. "$data"
-kept=$data/Data/Prefs/Running.qlg
-bag=(183 34)
-first_slot=(347 29)
+start_story "$@"
 
 kill_quillet() {
     kill -9 "$quillet_pid"
@@ -24,7 +17,7 @@ dialog_is "Choose Players"
 type_text Ann
 keys Return
 wait_for 5 has_focus Quillet || fail "the game did not start"
-drag "${first_slot[@]}" "${bag[@]}"
+drag "$(slot_x 1)" $slot_y "${bag[@]}"
 keys 0
 wait_for 10 grep -q '^moves = 1' "$kept" || fail "the game is not kept"
 before=$(cat "$kept")
@@ -36,7 +29,7 @@ picture question
 keys Return
 wait_for 5 has_focus Quillet
 sleep 0.5
-is_light $((first_slot[0] - 10)) $((first_slot[1] - 10)) || fail "the game did not go on"
+has_tile "$(slot_x 1)" $slot_y || fail "the game did not go on"
 picture went_on
 [[ $(cat "$kept") == "$before" ]] || fail "the kept game is another"
 

@@ -5,23 +5,7 @@
 set -euo pipefail
 source "$(dirname "${BASH_SOURCE[0]}")/desktop.sh"
 
-program=$1 companion=$2 assets=$3
-start_desktop 1100x800
-data=$work/data
-mkdir "$data"
-cp -r "$assets"/. "$data"
-
-# Places of the big board with the rack above.
-slot_x() { echo $((333 + ($1 - 1) * 27 + 14)); }
-slot_y=29
-col_x() { echo $((239 + ($1 - 1) * 27 + 14)); }
-row_y() { echo $((59 + ($1 - 1) * 27 + 14)); }
-done_button=(276 28)
-bag=(183 34)
-info_panel=(110 130)
-
-drag_to_square() { drag "$(slot_x "$1")" $slot_y "$(col_x "$3")" "$(row_y "$2")"; } # SLOT ROW COLUMN
-press_done() { click_at "${done_button[@]}"; }
+start_story "$@"
 
 # --- The first minute ---
 
@@ -32,7 +16,7 @@ type_text Ann
 keys Return
 wait_for 5 has_focus Quillet || fail "the game did not start"
 picture first_game
-wait_for 5 is_light $(($(slot_x 1) - 10)) $((slot_y - 10)) || fail "no tiles on the rack"
+wait_for 5 has_tile "$(slot_x 1)" $slot_y || fail "no tiles on the rack"
 [[ $(cat "$data/Data/Prefs/201.str") == Ann ]] || fail "the player's name was not kept"
 keys ctrl+q
 wait_for 10 test ! -d /proc/"$quillet_pid" || fail "Quillet did not end"
@@ -51,7 +35,7 @@ picture opened
 # Ann drags a tile, types the others and presses DONE.
 drag_to_square 1 8 7
 type_text at
-wait_for 5 is_light $(($(col_x 9) - 11)) $(($(row_y 8) - 11)) || fail "the typed tile is not on the board"
+wait_for 5 has_tile "$(col_x 9)" "$(row_y 8)" || fail "the typed tile is not on the board"
 picture cat
 press_done
 # Bob passes; Ann goes on with her blank.

@@ -5,11 +5,7 @@
 set -euo pipefail
 source "$(dirname "${BASH_SOURCE[0]}")/desktop.sh"
 
-program=$1 companion=$2 assets=$3
-start_desktop 1100x800
-data=$work/data
-mkdir "$data"
-cp -r "$assets"/. "$data"
+start_story "$@"
 
 done_shows() { is_light 276 20; }
 
