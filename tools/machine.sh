@@ -5,7 +5,7 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 packages=(g++ cmake ninja-build libgtest-dev libgmock-dev libbenchmark-dev libcli11-dev
     qt6-base-dev qt6-multimedia-dev libgl1-mesa-dev fonts-liberation)
 fuzz_packages=(clang-14 libclang-rt-14-dev)
-e2e_packages=(xvfb xdotool imagemagick openbox x11-utils fonts-liberation)
+e2e_packages=(xvfb xdotool xclip imagemagick openbox x11-utils fonts-liberation)
 
 # install_missing [PACKAGE...]: installs the Debian packages that are missing, with those named; asks nothing.
 install_missing() {

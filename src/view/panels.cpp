@@ -92,16 +92,23 @@ void DrawHeadings() {
     DrawTextEndingAt(box.right - 23, baseline, "Scores");
 }
 
+void DrawClipped(const Rect& box, int baseline, std::string_view text) {
+    const ClipTo clip(WindowCanvas(), box);
+    WindowCanvas().DrawText(kTextFont, {box.left, baseline}, text, kBlack);
+}
+
 void DrawPlayerRow(int number) {
     const Player& player = game.players[number];
     const Rect& row = At().playerRow[number];
     Canvas& canvas = WindowCanvas();
     const ClipTo clip(canvas, row);
     const int baseline = row.top + kRowBaseline;
-    canvas.DrawText(kTextFont, {row.left + 10, baseline}, player.name, kBlack);
+    const std::string turns = std::to_string(player.turns);
+    const Rect nameBox{row.left + 10, row.top, row.right - 67 - TextWidth(kTextFont, turns), row.bottom};
+    DrawClipped(nameBox, baseline, player.name);
     // The mark of the player to move: a bullet as high as a small letter.
     if (number == game.currentPlayer) canvas.Disc(Rect::At({row.left + 1, baseline - 6}, {5, 5}), kBlack);
-    DrawTextEndingAt(row.right - 64, baseline, std::to_string(player.turns));
+    DrawTextEndingAt(row.right - 64, baseline, turns);
     DrawTextEndingAt(row.right - 24, baseline, std::to_string(player.score));
     canvas.Triangle({row.right - 8, row.top + 4}, kTriangleLines, true, kBlack);
 }
