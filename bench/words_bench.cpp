@@ -31,6 +31,24 @@ void LookUpOneWord(benchmark::State& state) {
     }
 }
 
+// What the editor does for one word: adds or deletes it, finds its place and lists the lines from there.
+void EditOneWord(benchmark::State& state) {
+    constexpr std::string_view kWord = "QUILLETISH";
+    constexpr int kLines = 12;
+    Dict dict;
+    InstallDict(dict, ReadLargeList());
+    for (auto _ : state) {
+        if (IsWord(dict, kWord)) {
+            DeleteWord(dict, kWord);
+        } else {
+            AddWord(dict, kWord);
+        }
+        Word word = GetWord(dict, FindWordIndex(dict, kWord));
+        for (int line = 1; line < kLines; ++line) StepWord(dict, +1, word);
+        benchmark::DoNotOptimize(word);
+    }
+}
+
 void LoadListWithChecksAndIndex(benchmark::State& state) {
     for (auto _ : state) {
         Dict dict;
@@ -100,6 +118,7 @@ void SwitchListsAroundATurn(benchmark::State& state) {
 
 BENCHMARK(SwitchListsAroundATurn)->ArgName("afresh")->DenseRange(0, 1)->Unit(benchmark::kMillisecond);
 BENCHMARK(LookUpOneWord);
+BENCHMARK(EditOneWord)->Unit(benchmark::kMillisecond);
 BENCHMARK(LoadListWithChecksAndIndex)->Unit(benchmark::kMillisecond);
 BENCHMARK(CheckGraph)->Unit(benchmark::kMillisecond);
 BENCHMARK(BuildListFromText)->Unit(benchmark::kMillisecond);
