@@ -72,6 +72,9 @@ std::optional<char> AskBlankLetter(int row, int col);
 // The dialog in which the players of a new game are chosen; false when cancelled.
 bool ChoosePlayers();
 
+// Asks who plays on as player 1..4 of the running game; false when nothing was changed.
+bool ChangeOnePlayer(int player);
+
 // Is the mouse pointer over the "Statistics" label?
 bool PointerIsOverStatistics();
 

@@ -1,6 +1,6 @@
-#include "dialogs/change_player.h"
-
+// Changes a player of the running game, for those who ask through base/presentation.h.
 #include "base/messages.h"
+#include "base/presentation.h"
 #include "dialogs/player_row.h"
 #include "platform/message_box.h"
 

@@ -1,7 +1,6 @@
 #include "view/tile_interaction.h"
 
 #include "base/presentation.h"
-#include "dialogs/change_player.h"
 #include "platform/message_box.h"
 #include "platform/ticks.h"
 #include "play/end_of_game.h"

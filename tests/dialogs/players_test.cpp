@@ -2,7 +2,6 @@
 
 #include "base/presentation.h"
 #include "computer/opponents.h"
-#include "dialogs/change_player.h"
 #include "store/bitmap_files.h"
 #include "store/preferences.h"
 #include "support/dialog_test.h"

@@ -26,7 +26,7 @@ const Floor kFloors[] = {
     {"src/main.cpp", 12},
     {"src/shell/", 11},
     {"src/editors/", 10},
-    {"src/dialogs/", 9},
+    {"src/dialogs/", 10},
     {"src/view/", 9},
     {"cli/", 9},
     {"src/play/", 8},

@@ -27,5 +27,9 @@ bool ChoosePlayers() {
     Record("ChoosePlayers");
     return recorded.playersChosen;
 }
+bool ChangeOnePlayer(int player) {
+    Record("ChangeOnePlayer", player);
+    return false;
+}
 
 }  // namespace quillet

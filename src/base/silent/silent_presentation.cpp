@@ -33,6 +33,7 @@ void PlaySoundFile(bool, std::string_view) {}
 void StartSoundFile(bool, std::string_view) {}
 std::optional<char> AskBlankLetter(int, int) { return std::nullopt; }
 bool ChoosePlayers() { return false; }
+bool ChangeOnePlayer(int) { return false; }
 bool PointerIsOverStatistics() { return false; }
 
 }  // namespace quillet
