@@ -12,12 +12,21 @@
 
 namespace {
 
-// Gets the player's tree ready; false, when there is none to play with. Either way the player is told why.
-bool PrepareData(const quillet::DataPlace& place) {
+constexpr const char* kNoData =
+    "Quillet does not find its word lists and scenarios.  Start it where it was installed or unpacked, "
+    "or tell with --data where they are.";
+
+// Gets the player's tree ready. What is returned tells the player why that failed; empty when it did not.
+std::string PrepareData(const quillet::DataPlace& place) {
+    if (!quillet::HoldsData(place.shipped)) return kNoData;
+    return place.shipped == place.own ? "" : quillet::RefreshUserData(place.shipped, place.own);
+}
+
+// Is there a tree to play with? Either way the player is told what is wrong.
+bool IsPlayable(const quillet::DataPlace& place) {
     using namespace quillet;
-    if (place.shipped == place.own) return true;
-    const std::string problem = RefreshUserData(place.shipped, place.own);
-    const bool isPlayable = HoldsData(place.own);
+    const std::string problem = PrepareData(place);
+    const bool isPlayable = problem.empty() || MayBePlayedIn(place.own);
     if (!problem.empty()) {
         ShowMessageBox(isPlayable ? BoxKind::Warning : BoxKind::Fatal, ResourceString(StringId::ProgramTitle),
                        problem);
@@ -43,7 +52,8 @@ int main(int argc, char** argv) {
     const DataPlace place = dataFolder.empty() ? FindDataPlace() : DataPlace{dataFolder, dataFolder};
     if (!StartPlatform(argc, argv)) return 1;
     SetProgramIcon(place.shipped + "/icons");
-    const bool isReady = PrepareData(place);
+    // What is missing in a folder that was named, is told when it is wanted.
+    const bool isReady = !dataFolder.empty() || IsPlayable(place);
     if (isReady) {
         SetDataFolder(place.own);
         RunProgram(options);

@@ -1,6 +1,7 @@
 #include "store/data_folder.h"
 
 #include <pwd.h>
+#include <sys/auxv.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -15,8 +16,13 @@ namespace {
 namespace fs = std::filesystem;
 
 fs::path ProgramFolder() {
-    std::error_code ignored;
-    return fs::read_symlink("/proc/self/exe", ignored).parent_path();
+    std::error_code error;
+    fs::path program = fs::read_symlink("/proc/self/exe", error);
+    if (error) {  // there may be no /proc
+        const auto* started = reinterpret_cast<const char*>(getauxval(AT_EXECFN));
+        if (started != nullptr) program = fs::weakly_canonical(started, error);
+    }
+    return program.parent_path();
 }
 
 fs::path InstalledData(const fs::path& program) { return program / QUILLET_DATA_FROM_PROGRAM; }
@@ -33,17 +39,18 @@ fs::path UserTree() {
     return fs::path(home) / ".local/share/quillet";
 }
 
-bool MayBePlayedIn(const fs::path& folder) {
-    std::error_code ignored;
-    return HoldsData(folder) && fs::is_directory(folder / "Data/Prefs", ignored) &&
-           access((folder / "Data/Prefs").c_str(), W_OK) == 0 && access(folder.c_str(), W_OK) == 0;
-}
-
 }  // namespace
 
 bool HoldsData(const std::string& folder) {
     std::error_code ignored;
     return fs::is_directory(fs::path(folder) / "Word Lists", ignored);
+}
+
+bool MayBePlayedIn(const std::string& folder) {
+    const fs::path preferences = fs::path(folder) / "Data/Prefs";
+    std::error_code ignored;
+    return HoldsData(folder) && fs::is_directory(preferences, ignored) &&
+           access(preferences.c_str(), W_OK) == 0 && access(folder.c_str(), W_OK) == 0;
 }
 
 std::string FindDataFolder() {

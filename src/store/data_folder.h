@@ -8,6 +8,9 @@ namespace quillet {
 // Does that folder, in the file system's notation, hold data folders?
 bool HoldsData(const std::string& folder);
 
+// The same, and may the program write there, as it does when it is played?
+bool MayBePlayedIn(const std::string& folder);
+
 // For reading: the current folder, its "assets", or what belongs to the program's own place, and there the
 // user's tree before the installed one; "." when none of these holds data.
 std::string FindDataFolder();

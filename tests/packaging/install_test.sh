@@ -18,16 +18,18 @@ mv "$work/staged/usr" "$work/moved place/usr"
 usr="$work/moved place/usr"
 share=$usr/share
 
-for file in applications/quillet.desktop mime/packages/quillet.xml metainfo/net.quillet.Quillet.metainfo.xml \
+for file in applications/quillet.desktop mime/packages/quillet.xml metainfo/invalid.quillet.quillet.metainfo.xml \
     man/man6/quillet.6 man/man1/quillet-cli.1 doc/quillet/copyright icons/hicolor/{16x16,48x48,256x256}/apps/quillet.png; do
     [[ -s $share/$file ]] || fail "no $file"
 done
 [[ -z $(find "$share" -name '.*') ]] || fail "hidden files are installed"
 if command -v desktop-file-validate >/dev/null; then desktop-file-validate "$share/applications/quillet.desktop"; fi
 if command -v appstreamcli >/dev/null; then
-    appstreamcli validate --no-net "$share/metainfo/net.quillet.Quillet.metainfo.xml" >"$work/appstream.log" ||
+    appstreamcli validate --no-net "$share/metainfo/invalid.quillet.quillet.metainfo.xml" >"$work/appstream.log" ||
         fail "$(cat "$work/appstream.log")"
 fi
+entry=$(sed -n 's:.*<launchable type="desktop-id">\(.*\)</launchable>.*:\1:p' "$share"/metainfo/*.xml)
+[[ -f $share/applications/$entry ]] || fail "software centres look for $entry"
 if command -v update-mime-database >/dev/null; then
     update-mime-database "$share/mime"
     grep -q '^50:application/x-quillet-game:\*.qlg$' "$share/mime/globs2" || fail "*.qlg has no type"

@@ -1,6 +1,8 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QFont>
+#include <QFontInfo>
 #include <QIcon>
 #include <cstdio>
 #include <memory>
@@ -14,6 +16,17 @@ namespace quillet {
 namespace {
 
 std::unique_ptr<QApplication> application;
+
+// Where the desktop's font is not installed and nothing like it is known, the toolkit may take a
+// typewriter's.
+void AvoidTypewriterFont() {
+    const QFont wanted = QApplication::font();
+    const QFontInfo found(wanted);
+    if (!found.fixedPitch() || found.family() == wanted.family()) return;
+    QFont font(QStringLiteral("Arial"));
+    font.setPointSizeF(found.pointSizeF());
+    QApplication::setFont(font);
+}
 
 }  // namespace
 
@@ -29,6 +42,7 @@ bool StartPlatform(int& argumentCount, char** arguments) {
     QApplication::setApplicationName(QStringLiteral("quillet"));
     QApplication::setDesktopFileName(QStringLiteral("quillet"));
     QApplication::setQuitOnLastWindowClosed(false);
+    AvoidTypewriterFont();
     return true;
 }
 
