@@ -6,6 +6,7 @@
 #include <iostream>
 
 #include "store/files.h"
+#include "store/item_store.h"
 #include "words/word_list_file.h"
 
 namespace quillet {
@@ -62,6 +63,7 @@ PositionSet ReadPositions() {
 
 Dict ReadLargeList() {
     SetDataFolder(QUILLET_ASSETS);
+    scenarioStore.shared = true;
     std::optional<Dict> dict = ReadDict(WordListPath("Large"), "Large");
     if (!dict) {
         std::cerr << "cannot open the Large list in " QUILLET_ASSETS "\n";

@@ -12,6 +12,7 @@
 #include "play/history.h"
 #include "store/data_folder.h"
 #include "store/files.h"
+#include "store/item_store.h"
 #include "words/graph_check.h"
 #include "words/word_list_file.h"
 
@@ -32,6 +33,7 @@ bool IsPath(const std::string& nameOrPath) {
 }  // namespace
 
 void AddDataOption(CLI::App& app) {
+    scenarioStore.shared = true;  // the companion only looks, and may look at what is installed for everybody
     SetDataFolder(FindDataFolder());
     app.add_option_function<std::string>("--data", UseDataFolder,
                                          "Folder that holds the folder \"Word Lists\"")

@@ -79,7 +79,7 @@ bool OpenScenario(Purpose purpose) {
         Warning("Unexpected version in scenario!");
         return false;
     }
-    WriteItemText(scenarioStore, kVersionItem, kScenarioVersion);
+    if (!scenarioStore.shared) WriteItemText(scenarioStore, kVersionItem, kScenarioVersion);
     return true;
 }
 

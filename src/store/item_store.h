@@ -26,6 +26,7 @@ struct ItemStore {
     std::string_view readFailure = {};  // what it says when one is missing; without it, that reads as empty
     Text<31> member = {};               // the subfolder in use; empty: the folder itself
     bool open = true;                   // a closed store reads as empty, and writing to it does nothing
+    bool shared = false;                // looked at only: opening does not write the version anew
 };
 
 inline ItemStore prefsStore{.folder = StringId::PrefsFolder,

@@ -113,7 +113,10 @@ TEST_F(CliTest, SavedGamesAreShownAndAnalysed) {
 }
 
 TEST_F(CliTest, CheckNamesEachProblemOfADataFolder) {
+    const auto version = std::filesystem::path(QUILLET_ASSETS) / "Scenarios/Duel/12345.str";
+    const auto before = std::filesystem::last_write_time(version);
     EXPECT_THAT(Cli("check '" QUILLET_ASSETS "'").output, EndsWith(": nothing wrong\n"));
+    EXPECT_EQ(std::filesystem::last_write_time(version), before) << "the data may be somebody else's";
 
     std::filesystem::copy(QUILLET_ASSETS, root, std::filesystem::copy_options::recursive);
     SetByte("Word Lists/Common.qld", 400, '\xFF');
