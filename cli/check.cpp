@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <functional>
+#include <utility>
 
 #include "base/messages.h"
 #include "command.h"
@@ -188,8 +189,15 @@ void CheckHelp(Problems& problems) {
         if (topic.size() > HelpTopic::capacity()) problems.Add(list, topic + ": more than 63 characters");
     }
     for (const HelpTopic& topic : helpTopics) {
+        if (IsSeparator(topic)) continue;
         const std::string path = FolderPath(StringId::HelpFolder, std::string(topic) + ".txt");
-        if (!IsSeparator(topic) && !FileExists(path)) problems.Add(path, "is missing");
+        FileRef file = OpenForReading(path);
+        if (!file) {
+            problems.Add(path, "is missing");
+            continue;
+        }
+        if (FileSize(*file) > kMostHelpBytes) problems.Add(path, "has more than 32,000 bytes");
+        CloseFile(std::move(file));
     }
 }
 

@@ -4,9 +4,10 @@
 #include <sys/file.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <cstddef>
 #include <cstdint>
-#include <filesystem>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -22,14 +23,17 @@
 namespace quillet {
 namespace {
 
-constexpr int kSlots = 9;                           // programs that can run at once and all keep their games
-constexpr std::uintmax_t kRoomForGame = 64 * 1024;  // bytes; more than any game takes
+constexpr int kSlots = 9;                        // programs that can run at once and all keep their games
+constexpr std::size_t kRoomForGame = 64 * 1024;  // bytes; more than any game takes
+
+// What a file holds: a fingerprint, or
 constexpr std::uint64_t kNothing = 0;
+constexpr std::uint64_t kUnknown = 1;
 
 struct Keeping {
     int slot = 0;                   // 1..kSlots; 0: none
     int lock = -1;                  // of the slot
-    std::uint64_t kept = kNothing;  // the fingerprint of what the file holds
+    std::uint64_t kept = kNothing;  // what the file holds
     bool warned = false;
 };
 Keeping keeping;
@@ -67,15 +71,17 @@ bool Take(int slot) {
     return true;
 }
 
-// Takes the first slot that no program holds and that has a game, or has none, as asked for.
-bool TakeFirst(bool withGame) {
+// Takes the slot if no program holds it and it has a game, or has none, as asked for.
+bool TakeIf(int slot, bool withGame) {
+    const auto isRight = [&] { return FileExists(GamePath(slot)) == withGame; };
+    return isRight() && Take(slot) && isRight();
+}
+
+void TakeEmpty() {
     for (int slot = 1; slot <= kSlots; ++slot) {
-        if (FileExists(GamePath(slot)) == withGame && Take(slot)) {
-            if (FileExists(GamePath(slot)) == withGame) return true;
-        }
+        if (TakeIf(slot, false)) return;
     }
     Release();
-    return false;
 }
 
 // --- What is kept ---
@@ -90,7 +96,7 @@ class Fingerprint {
     void Add(std::int64_t number) {
         for (int shift = 0; shift < 64; shift += 8) AddByte(static_cast<unsigned char>(number >> shift));
     }
-    std::uint64_t Value() const { return hash == kNothing ? 1 : hash; }
+    std::uint64_t Value() const { return std::max(hash, kUnknown + 1); }
 
   private:
     void AddByte(unsigned char byte) { hash = (hash ^ byte) * 0x100000001B3; }
@@ -98,15 +104,25 @@ class Fingerprint {
     std::uint64_t hash = 0xCBF29CE484222325;
 };
 
+// What was taken back can be played again, and so is kept too.
+int MovesToKeep() { return game.history.movesCount + game.history.redoCount; }
+
+// A move counts as a turn when its record is complete.
+bool MoveIsBeingRecorded() {
+    int turns = 0;
+    for (int p = 1; p <= game.numPlayers; ++p) turns += game.players[p].turns;
+    return game.IsRunning() && turns != game.history.movesCount;
+}
+
 std::uint64_t FingerprintOfGame() {
-    if (!game.IsRunning() || game.editorActive || game.history.movesCount == 0) return kNothing;
+    if (!game.IsRunning() || MovesToKeep() == 0) return kNothing;
     Fingerprint fingerprint;
     fingerprint.Add(CurrentScenario());
     for (int p = 1; p <= game.numPlayers; ++p) {
         fingerprint.Add(game.players[p].name);
         fingerprint.Add(game.startRacks[p]);
     }
-    for (int n = 1; n <= game.history.movesCount; ++n) {
+    for (int n = 1; n <= MovesToKeep(); ++n) {
         const MoveRecord& record = game.history.records[n];
         fingerprint.Add(record.player);
         fingerprint.Add(record.letters);
@@ -125,45 +141,74 @@ void WarnOnce(std::string_view text) {
     if (!std::exchange(keeping.warned, true)) Warning(text);
 }
 
-// Would writing succeed? Looks without a message.
+// Would writing succeed? Tries it, without a message.
 bool CanBeWritten(const std::string& path) {
-    std::error_code error;
-    const auto space = std::filesystem::space(DataFolder(), error);
-    return (error || space.available >= kRoomForGame) && CreateForWriting(path) != nullptr;
+    if (CreateForWriting(path) == nullptr) return false;
+    const std::optional<std::string> trial = SystemPath(PathOf(keeping.slot, ".trial"));
+    const int handle = trial ? open(trial->c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644) : -1;
+    if (handle < 0) return false;
+    const std::string bytes(kRoomForGame, ' ');
+    const ssize_t written = write(handle, bytes.data(), bytes.size());
+    const bool isOnDisk = written == static_cast<ssize_t>(bytes.size()) && fsync(handle) == 0;
+    close(handle);
+    unlink(trial->c_str());
+    return isOnDisk;
+}
+
+bool SaveAllMoves(const std::string& path) {
+    MoveHistory& history = game.history;
+    const int present = std::exchange(history.movesCount, MovesToKeep());
+    const bool isSaved = SaveGame(path);
+    history.movesCount = present;
+    return isSaved;
 }
 
 bool WriteRunningGame() {
-    if (keeping.slot == 0 && !TakeFirst(false)) {
+    if (keeping.slot == 0) TakeEmpty();
+    if (keeping.slot == 0) {
         WarnOnce("The running game cannot be kept in case the program stops.");
         return false;
     }
     const std::string path = GamePath(keeping.slot);
     if (keeping.warned && !CanBeWritten(path)) return false;
-    if (SaveGame(path)) return true;
+    if (SaveAllMoves(path)) return true;
     keeping.warned = true;
     return false;
 }
+
+// Opens the game of the slot held, which then is the running one. False, and another slot is held, when
+// that fails: the file is left for another start.
+bool GoOnWithKept() {
+    if (GoOnWithGame(GamePath(keeping.slot))) {
+        keeping.kept = kUnknown;
+        return true;
+    }
+    keeping.kept = kNothing;
+    TakeEmpty();
+    return false;
+}
+
+// When another file could not be opened, the game that was on the screen is gone without an end.
+bool GameWasLost() { return keeping.kept != kNothing && !game.gameStarted; }
 
 }  // namespace
 
 void StartKeepingGame(bool mayOffer) {
     Release();
     keeping = {};
-    if (mayOffer && TakeFirst(true)) {
-        const std::string path = GamePath(keeping.slot);
+    for (int slot = 1; mayOffer && slot <= kSlots; ++slot) {
+        if (!TakeIf(slot, true)) continue;
         if (!AskYesNo(true, "The last game was not ended properly.  Go on with it?")) {
-            RemoveFile(path);
+            RemoveFile(GamePath(slot));
             return;
         }
-        if (GoOnWithGame(path)) {
-            keeping.kept = FingerprintOfGame();
-            return;
-        }
+        if (GoOnWithKept()) return;
     }
-    TakeFirst(false);
+    TakeEmpty();
 }
 
 void KeepRunningGame() {
+    if (game.editorActive || MoveIsBeingRecorded() || (GameWasLost() && GoOnWithKept())) return;
     const std::uint64_t now = FingerprintOfGame();
     if (now == keeping.kept) return;
     if (now == kNothing) {
@@ -175,6 +220,7 @@ void KeepRunningGame() {
 }
 
 void EndKeepingGame(bool gameIsSafe) {
+    if (!gameIsSafe) KeepRunningGame();
     if (keeping.slot != 0 && gameIsSafe) RemoveFile(GamePath(keeping.slot));
     Release();
     keeping = {};

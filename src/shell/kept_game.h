@@ -9,11 +9,12 @@ namespace quillet {
 
 // Takes a file for this run. When one is there that a run left behind, and a game may be offered, asks
 // whether to go on with it: yes opens it, no gives it up. A file that cannot be opened is left for another
-// start.
+// start, and the next one is offered.
 void StartKeepingGame(bool mayOffer);
 
-// To be called often: writes the running game if it is not the one last written, and removes the file when
-// there is nothing to lose. Warns once a run when the game cannot be written, and then goes on trying.
+// To be called often: writes the running game if it is not the one last written, with the moves that were
+// taken back, and removes the file when there is nothing to lose. A game that was lost because another file
+// could not be opened comes back. Warns once a run when the game cannot be written, and then goes on trying.
 void KeepRunningGame();
 
 // At a proper end. The file goes, unless the game is in no other place.

@@ -189,9 +189,8 @@ void StartProgram(const RunOptions& options) {
     ShowWaitCursor();
     ShowSplashForAWhile();
     pump.idleHook = IdlePump;
-    const bool isNamed = IsSavedGame(options.savedGame);
-    if (isNamed) OpenGameFile(options.savedGame);
-    StartKeepingGame(!isNamed);
+    const bool isOpen = IsSavedGame(options.savedGame) && OpenGameFile(options.savedGame);
+    StartKeepingGame(!isOpen);
     if (!wordList.loaded) LoadPreferredWordList();
 }
 
@@ -199,6 +198,7 @@ bool RunOnce() {
     while (const std::optional<Message> message = PeekMessage()) {
         Dispatch(*message);
         if (shell.ended) return false;
+        KeepRunningGame();
     }
     BlinkTick();
     if (preferences.timerEnabled) ClockTick();

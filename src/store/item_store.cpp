@@ -55,13 +55,16 @@ std::int16_t ReadItemShort(const ItemStore& store, ItemId id) {
 
 bool ReadItemBoolean(const ItemStore& store, ItemId id) { return ReadItemText<1>(store, id) == "T"; }
 
-void WriteItemText(const ItemStore& store, ItemId id, std::string_view value) {
-    if (!store.open) return;
+FileRef BeginItem(const ItemStore& store, ItemId id, std::string_view value) {
     const FilePath path = ItemPath(store, id);
     FileRef file = CreateForWriting(path);
     if (!file) Fatal(store.createFailure, path, "  Error: ", std::to_string(errno));
     WriteBlock(*file, std::as_bytes(std::span(value.substr(0, value.find('\0')))));
-    CloseFile(std::move(file));
+    return file;
+}
+
+void WriteItemText(const ItemStore& store, ItemId id, std::string_view value) {
+    if (store.open) CloseFile(BeginItem(store, id, value));
 }
 
 void WriteItemNumber(const ItemStore& store, ItemId id, std::int32_t value) {

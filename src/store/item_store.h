@@ -64,6 +64,9 @@ void WriteItemText(const ItemStore& store, ItemId id, std::string_view value);
 void WriteItemNumber(const ItemStore& store, ItemId id, std::int32_t value);
 void WriteItemBoolean(const ItemStore& store, ItemId id, bool value);
 
+// Likewise, but it takes the item's place only when the file is closed (CloseFile).
+FileRef BeginItem(const ItemStore& store, ItemId id, std::string_view value);
+
 // To be asked before the current scenario's items are read or changed: does it exist (and may it be
 // changed), in a version that we know? The version item is written anew each time. An unknown version is
 // reported; a missing scenario is left to the caller.

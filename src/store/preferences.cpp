@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <string>
+#include <utility>
 #include <variant>
 
 #include "base/messages.h"
@@ -121,8 +122,10 @@ void OpenPrefs() {
     const bool exists = FileExists(ItemPath(prefsStore, kVersionItem));
     prefsStore.open = true;
     if (!exists) {
-        WriteVersion();
+        // The version stands there when all else does: a start that is stopped in between begins anew.
+        FileRef version = BeginItem(prefsStore, kVersionItem, std::string_view(&kVersion, 1));
         for (const PreferenceItem& item : kItems) WriteItem(item, Preferences{});
+        CloseFile(std::move(version));
         return;
     }
     const Text<1> version = ReadItemText<1>(prefsStore, kVersionItem);

@@ -11,10 +11,9 @@
 #include <cstdint>
 #include <fstream>
 #include <map>
-#include <memory>
 #include <optional>
-#include <span>
 #include <sstream>
+#include <string_view>
 #include <system_error>
 #include <utility>
 #include <vector>
@@ -79,6 +78,46 @@ std::string StampOf(const fs::path& path) {
     return std::move(text).str();
 }
 
+// A file that is being written. Unlike the library's streams it tells why writing failed.
+class NewFile {
+  public:
+    // Takes the place of what is there. It may always be written to.
+    explicit NewFile(const fs::path& place)
+        : path(place), handle(open(place.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644)) {
+        if (handle < 0) FailWithErrno(path);
+    }
+    ~NewFile() { close(handle); }
+    NewFile(const NewFile&) = delete;
+    NewFile& operator=(const NewFile&) = delete;
+
+    void Write(std::string_view bytes) {
+        while (!bytes.empty()) {
+            const ssize_t written = write(handle, bytes.data(), bytes.size());
+            if (written < 0 && errno != EINTR) FailWithErrno(path);
+            if (written > 0) bytes.remove_prefix(static_cast<std::size_t>(written));
+        }
+    }
+    void PutOnDisk() {
+        if (fsync(handle) != 0) FailWithErrno(path);
+    }
+
+  private:
+    fs::path path;
+    int handle;
+};
+
+void CopyBytes(const fs::path& from, const fs::path& to) {
+    std::ifstream source(from, std::ios::binary);
+    if (!source) FailWithErrno(from);
+    NewFile copy(to);
+    std::array<char, 1 << 16> buffer;
+    while (source) {
+        source.read(buffer.data(), buffer.size());
+        copy.Write({buffer.data(), static_cast<std::size_t>(source.gcount())});
+    }
+    if (!source.eof()) Fail(std::make_error_code(std::errc::io_error), from);
+}
+
 bool Exists(const fs::path& path) {
     std::error_code ignored;
     return fs::exists(fs::symlink_status(path, ignored));
@@ -109,13 +148,25 @@ ShippedFiles ReadList(const fs::path& own) {
 }
 
 void WriteList(const fs::path& own, const ShippedFiles& files) {
+    std::ostringstream text;
+    text << kListTitle << '\n' << std::hex;
+    for (const auto& [path, entry] : files) text << entry.hash << ' ' << entry.stamp << ' ' << path << '\n';
     const fs::path temporary = own / (std::string(kIncoming) + "list");
-    std::ofstream file(temporary, std::ios::binary | std::ios::trunc);
-    file << kListTitle << '\n' << std::hex;
-    for (const auto& [path, entry] : files) file << entry.hash << ' ' << entry.stamp << ' ' << path << '\n';
-    file.close();
-    if (!file) FailWithErrno(temporary);
+    NewFile file(temporary);
+    file.Write(text.str());
+    file.PutOnDisk();  // a list that the power cut off would bring back what was thrown away
     fs::rename(temporary, own / kListName);
+}
+
+// Of a folder that is gone as a whole nothing is known any more, so it comes again: without it there is
+// nothing to play.
+void ForgetLostFolders(const fs::path& own, ShippedFiles& files) {
+    for (const char* folder : kCopied) {
+        if (fs::is_directory(own / folder)) continue;
+        std::erase_if(files, [prefix = std::string(folder) + '/'](const auto& file) {
+            return file.first.starts_with(prefix);
+        });
+    }
 }
 
 // --- The plan ---
@@ -176,30 +227,6 @@ Plan MakePlan(const fs::path& shipped, const fs::path& own, const ShippedFiles& 
 
 fs::path IncomingPath(const fs::path& target) {
     return target.parent_path() / (kIncoming + target.filename().string());
-}
-
-void WriteAll(int handle, std::span<const char> bytes, const fs::path& path) {
-    while (!bytes.empty()) {
-        const ssize_t written = write(handle, bytes.data(), bytes.size());
-        if (written < 0 && errno != EINTR) FailWithErrno(path);
-        if (written > 0) bytes = bytes.subspan(static_cast<std::size_t>(written));
-    }
-}
-
-// Unlike the library's copying this tells why it failed, and the copy may always be written to.
-void CopyBytes(const fs::path& from, const fs::path& to) {
-    std::ifstream source(from, std::ios::binary);
-    if (!source) FailWithErrno(from);
-    const int handle = open(to.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
-    if (handle < 0) FailWithErrno(to);
-    const std::unique_ptr<const int, void (*)(const int*)> closing(&handle,
-                                                                   [](const int* it) { close(*it); });
-    std::array<char, 1 << 16> buffer;
-    while (source) {
-        source.read(buffer.data(), buffer.size());
-        WriteAll(handle, {buffer.data(), static_cast<std::size_t>(source.gcount())}, to);
-    }
-    if (!source.eof()) Fail(std::make_error_code(std::errc::io_error), from);
 }
 
 // Copies everything to a place beside its own. As long as one of these lives, what it copied and the folders
@@ -266,7 +293,8 @@ void SetLink(const fs::path& target, const fs::path& link) {
 
 void Refresh(const fs::path& shipped, const fs::path& own) {
     Copies copies;
-    const ShippedFiles before = ReadList(own);
+    ShippedFiles before = ReadList(own);
+    ForgetLostFolders(own, before);
     const Plan plan = MakePlan(shipped, own, before);
     for (const char* folder : kCopied) copies.MakeFolder(own / folder);
     for (const std::string& path : plan.copies) copies.Add(shipped / path, own / path);
@@ -288,13 +316,19 @@ struct TreeLock {
         if (handle < 0) FailWithErrno(own / kLockName);
         constexpr int kTries = 200;
         constexpr useconds_t kPause = 50'000;  // microseconds
-        for (int i = 0; i < kTries && flock(handle, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK; ++i) {
+        for (int i = 0; flock(handle, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK; ++i) {
+            if (i == kTries) GiveUp();
             usleep(kPause);
         }
     }
     ~TreeLock() { close(handle); }
     TreeLock(const TreeLock&) = delete;
     TreeLock& operator=(const TreeLock&) = delete;
+
+    [[noreturn]] void GiveUp() {
+        close(handle);
+        Fail(std::make_error_code(std::errc::device_or_resource_busy), kLockName);
+    }
 
     int handle;
 };

@@ -17,6 +17,7 @@ namespace quillet {
 //
 // A file that was shipped for the first time is copied, unless the user has one of that name or has thrown
 // the folder away that it belongs to. A file that is no longer shipped goes, if it is as it was copied.
+// A folder like "Scenarios" that is gone as a whole is copied again.
 // A real folder in the place of a link is the user's and stays.
 std::string RefreshUserData(const std::filesystem::path& shipped, const std::filesystem::path& own);
 

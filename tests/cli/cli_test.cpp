@@ -130,7 +130,8 @@ TEST_F(CliTest, CheckNamesEachProblemOfADataFolder) {
     WriteFile("Opponents/Pip/300.str", "Gone");
     WriteFile("Opponents/Pip/9001.bmp", "BM, but no picture");
     WriteFile("Definitions/Q.txt", "QUIT  (verb) stop\r\nQUIET  (noun) silence\r\nQUEUE\r\n");
-    WriteFile("Data/Help/HELPITEMS.txt", "Playing\r\n");
+    WriteFile("Data/Help/HELPITEMS.txt", "Playing\r\nTips\r\n");
+    WriteFile("Data/Help/Tips.txt", std::string(32001, 'x'));
     const Outcome broken = Cli("check '" + root.string() + "'", "2>/dev/null");
     EXPECT_EQ(broken.exitCode, 2);
     for (const char* problem :
@@ -140,7 +141,7 @@ TEST_F(CliTest, CheckNamesEachProblemOfADataFolder) {
           "Scenarios\\Classic: the start square", "Scenarios\\Diamond: Unexpected version in scenario!",
           "Opponents\\Pip: has the unknown word list Gone", "Opponents\\Pip: Could not read bitmap header",
           "Q.txt, line 2: QUIET must come before QUIT", "Q.txt, line 3: must be a word",
-          "Data\\Help\\Playing.txt: is missing"}) {
+          "Data\\Help\\Playing.txt: is missing", "Data\\Help\\Tips.txt: has more than 32,000 bytes"}) {
         EXPECT_THAT(broken.output, HasSubstr(problem));
     }
 }

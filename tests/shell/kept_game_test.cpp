@@ -5,9 +5,11 @@
 #include <gmock/gmock.h>
 #include <sys/file.h>
 
+#include "editors/board_editor.h"
 #include "play/history.h"
 #include "play/turns.h"
 #include "store/preferences.h"
+#include "support/full_disk.h"
 #include "support/running_program.h"
 #include "support/world.h"
 
@@ -64,12 +66,78 @@ TEST_F(KeptGame, EveryMoveIsKeptAndNothingBeforeTheFirst) {
     EXPECT_TRUE(Holds(kGame, "moves = 1")) << ReadFile(kGame);
     Pass(1);
     EXPECT_TRUE(Holds(kGame, "moves = 2"));
+}
+
+TEST_F(KeptGame, MovesTakenBackAreKeptUntilAnotherIsMade) {
+    PlayPasses(2);
+    const std::string kept = ReadFile(kGame);
+    UndoMove();
     UndoMove();
     Run();
+    EXPECT_EQ(game.history.movesCount, 0);
+    EXPECT_EQ(ReadFile(kGame), kept);
+    Pass(1);
     EXPECT_TRUE(Holds(kGame, "moves = 1"));
     UndoMove();
     Run();
+    EXPECT_THAT(StartAgain(true), ElementsAre(kQuestion));
+    EXPECT_EQ(game.history.movesCount, 1);
+}
+
+TEST_F(KeptGame, MoveThatIsBeingAnnouncedIsNotKeptBeforeItIsComplete) {
+    StartGame({"Ann", "Bob"});
+    std::string rack = RackOf(1);
+    while (rack.find('?') != std::string::npos) {
+        StartGame({"Ann", "Bob"});
+        rack = RackOf(1);
+    }
+    PostEvent({.kind = Message::Kind::PointerMoved, .at = MiddleOfSquare(8, 8)});
+    TypeText(rack);
+    headless.answers = {true};  // add the word
+    TypeText("0");
+    // A dialog that is opened in the middle of the announcement looks at the file.
+    std::string kept;
+    headlessWindow.dialogScripts = {[&](Dialog&) {
+        EXPECT_EQ(game.history.movesCount, 1);
+        kept = ReadFile(kGame);
+    }};
+    PostEvent({.kind = Message::Kind::Command, .command = 311}, 500);
+    Run(2);
+    EXPECT_EQ(kept, "<none>");
+    EXPECT_TRUE(Holds(kGame, "moves = 1"));
+    StartAgain(true);
+    EXPECT_TRUE(game.IsRunning());
+    EXPECT_EQ(RackOf(1).size(), 7U);
+}
+
+TEST_F(KeptGame, StaysWhileTheBoardIsEditedBecauseCancelGoesBackToIt) {
+    PlayPasses(2);
+    OpenBoardEditor();
+    Run();
+    EXPECT_TRUE(Holds(kGame, "moves = 2"));
+    HandleBoardEditorControl({.kind = Message::Kind::ControlEvent, .command = 2});  // Cancel
+    Run();
+    EXPECT_TRUE(Holds(kGame, "moves = 2"));
+    OpenBoardEditor();
+    HandleBoardEditorControl({.kind = Message::Kind::ControlEvent, .command = 1});  // Save
+    Run();
     EXPECT_EQ(ReadFile(kGame), "<none>");
+}
+
+TEST_F(KeptGame, ComesBackWhenAnotherCannotBeOpened) {
+    PlayPasses(2);
+    const std::string rack = RackOf(1);
+    std::string cut = ReadFile(kGame);
+    cut.resize(cut.find("moves = "));
+    WriteFile("cut.qlg", cut);
+    headlessWindow.fileAnswers = {(root / "cut.qlg").string()};
+    ChooseMenuItem(2);
+    Run();
+    EXPECT_THAT(TakeMessages(), ElementsAre(testing::HasSubstr("Unexpected end to file")));
+    EXPECT_TRUE(game.IsRunning());
+    EXPECT_EQ(game.history.movesCount, 2);
+    EXPECT_EQ(RackOf(1), rack);
+    EXPECT_TRUE(Holds(kGame, "moves = 2"));
 }
 
 TEST_F(KeptGame, ComputersOnlyAreKeptWhileTheyPlay) {
@@ -158,7 +226,7 @@ TEST_F(KeptGame, StartWithANamedGameLeavesItForTheNext) {
     Pass(1);
     EXPECT_TRUE(game.gameOver);
     EXPECT_TRUE(Holds(kGame, "moves = 2"));
-    EXPECT_THAT(StartAgain(true), ElementsAre(kQuestion));
+    EXPECT_THAT(StartAgain(true, (root / "missing.qlg").string()), ElementsAre(kQuestion));
 }
 
 TEST_F(KeptGame, SecondProgramKeepsItsOwnAndStealsNone) {
@@ -181,6 +249,27 @@ TEST_F(KeptGame, DamagedFileIsToldAndLeftAndDoesNotStopTheStart) {
     PlayPasses(1);
     EXPECT_EQ(ReadFile(kGame), "version = 2\r\nscenario = Nowhere\r\n");
     EXPECT_TRUE(Holds(kSecondGame, "moves = 1"));
+    ResetHeadlessWindow();
+    headless.questions.clear();
+    headless.answers = {true, true};
+    Start();
+    EXPECT_EQ(headless.questions.size(), 2U);
+    EXPECT_EQ(game.history.movesCount, 1);
+}
+
+TEST_F(KeptGame, FullDiskIsToldOnce) {
+    PlayPasses(1);
+    const std::string kept = ReadFile(kGame);
+    headless.answers = {true};
+    {
+        const FullDisk disk(300);
+        TypeText("0");
+        Run(3);
+        EXPECT_EQ(TakeMessages().size(), 1U);
+        EXPECT_EQ(ReadFile(kGame), kept);
+    }
+    Run();
+    EXPECT_TRUE(Holds(kGame, "moves = 2"));
 }
 
 TEST_F(KeptGame, FailureIsToldOnceAndTheGameIsKeptAsSoonAsItCanBe) {

@@ -78,6 +78,16 @@ TEST_F(PreferenceItems, MissingItemOrFolderEndsTheProgram) {
     EXPECT_THAT(TakeMessages(), ElementsAre("Could not create prefs file: Data\\Prefs\\12345.str  Error: 2"));
 }
 
+TEST_F(PreferenceItems, FirstStartThatIsStoppedHalfWayIsMadeUpFor) {
+    MakeFolder("Data/Prefs/1013.str");  // cannot be written
+    EXPECT_THROW(LoadPreferences(), ProgramEnd);
+    TakeMessages();
+    Remove("Data/Prefs/1013.str");
+    LoadPreferences();
+    EXPECT_THAT(TakeMessages(), IsEmpty());
+    EXPECT_TRUE(preferences.allowHints);
+}
+
 TEST_F(PreferenceItems, PlayerNamesBeyondTheCountStay) {
     WritePlayerNames(std::vector<Text<12>>{"Ada 9", "Bo 5", "Cy"});
     WritePlayerNames(std::vector<Text<12>>{"Solo"});

@@ -125,6 +125,19 @@ TEST_F(UserData, ChangedFileOfTheSameSizeAndDateIsNoticed) {
     EXPECT_EQ(Own("Word Lists/Words.qld"), "WORDS");
 }
 
+TEST_F(UserData, FolderThatIsGoneAsAWholeComesAgain) {
+    Start();
+    const auto before = Everything("own");
+    Discard("Scenarios");
+    EXPECT_EQ(Start(), "");
+    EXPECT_EQ(Everything("own"), before);
+    // As a shell's "*" does it, which leaves the list behind.
+    for (const char* folder : {"Scenarios", "Word Lists", "Opponents", "Statistics", "Data", "Definitions"})
+        Discard(folder);
+    EXPECT_EQ(Start(), "");
+    EXPECT_EQ(Everything("own"), before);
+}
+
 TEST_F(UserData, DamagedListCostsNothing) {
     for (const std::string list : {"", "nonsense", "Quillet's shipped files, 1\nzz 1:2 Scenarios/x\n",
                                    "Quillet's shipped files, 1\n1 2 ../shipped/Word Lists/Words.qld\n"}) {

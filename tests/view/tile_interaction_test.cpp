@@ -1,6 +1,7 @@
 // Tiles under the person's hand: dragged, typed, swapped, thrown back.
 #include <gtest/gtest.h>
 
+#include "base/presentation.h"
 #include "game/consistency.h"
 #include "store/preferences.h"
 #include "support/running_program.h"
@@ -266,6 +267,25 @@ TEST_F(Hand, ScatteredTilesTakeNoTypedLetter) {
     Run();
     EXPECT_TRUE(game.board[5][9].IsEmpty());
     ExpectRack("A.TSDOG.");
+}
+
+TEST_F(Hand, EveryTilePutOnTheBoardClicksAndNothingElseDoes) {
+    Begin("CATSDOG");
+    FlipPreference(&Preferences::playTileClicks);
+    DragRow(8, 7, 2);
+    TypeText("T");
+    Run();
+    const std::string click = (root / "Data/Sounds/tile.wav").string();
+    EXPECT_EQ(headlessWindow.sounds, std::vector<std::string>(3, click));
+    Drag(MiddleOfSquare(8, 9), MiddleOfSlot(1));
+    Click(MiddleOf(view.layout.lettersLeftBox), kControl);  // draws all tiles again
+    Run();
+    RedrawWindow();
+    EXPECT_EQ(headlessWindow.sounds.size(), 3U);
+    FlipPreference(&Preferences::playTileClicks);
+    Drag(MiddleOfSlot(1), MiddleOfSquare(8, 9));
+    Run();
+    EXPECT_EQ(headlessWindow.sounds.size(), 3U);
 }
 
 // --- Panels ---

@@ -36,7 +36,11 @@ struct Request {
 using RequestPointer = std::shared_ptr<Request>;
 
 constexpr qint64 kLargestFile = 64 * 1024 * 1024;
-constexpr std::uint32_t kMaxStart = 1500;  // milliseconds that a device may take to begin
+// Milliseconds that a device may take to begin. A click that is late is not worth waiting for.
+std::uint32_t MaxStart(const WaveSound& wave) {
+    return std::min<std::uint32_t>(100 + wave.Milliseconds(), 1500);
+}
+
 constexpr int kTail = 300;  // milliseconds that are still in the device when all was handed to it
 constexpr unsigned long kMaxEnd = 1000;
 
@@ -163,7 +167,7 @@ void StartSound(const std::string& path) { Hand(path); }
 void PlaySound(const std::string& path) {
     const RequestPointer sound = Hand(path);
     if (!sound) return;
-    NapUntil(DeadlineIn(kMaxStart), [&] { return sound->fate != Fate::Waiting; });
+    NapUntil(DeadlineIn(MaxStart(sound->wave)), [&] { return sound->fate != Fate::Waiting; });
     if (sound->fate != Fate::Playing) return;
     NapUntil(DeadlineIn(sound->wave.Milliseconds()), [&] { return sound->fate == Fate::Over; });
 }
