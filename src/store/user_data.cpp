@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <charconv>
@@ -186,12 +187,15 @@ std::vector<std::string> ListShipped(const fs::path& shipped) {
     return paths;
 }
 
+bool HoldsFiles(const ShippedFiles& files, const std::string& prefix) {
+    const auto first = files.lower_bound(prefix);
+    return first != files.end() && first->first.starts_with(prefix);
+}
+
 // Has the user thrown away the folder that a newly shipped file belongs to?
 bool IsInFolderThrownAway(const fs::path& own, const std::string& path, const ShippedFiles& before) {
     const fs::path folder = fs::path(path).parent_path();
-    const std::string prefix = folder.string() + '/';
-    const auto known = before.lower_bound(prefix);
-    return known != before.end() && known->first.starts_with(prefix) && !Exists(own / folder);
+    return HoldsFiles(before, folder.string() + '/') && !Exists(own / folder);
 }
 
 // Is the shipped file, which is not the one that was shipped before, to take its place in the user's tree?
@@ -199,6 +203,18 @@ bool IsToBeCopied(const fs::path& own, const std::string& path, const ShippedFil
     const auto known = before.find(path);
     if (known != before.end()) return HashOf(own / path) == known->second.hash;
     return !Exists(own / path) && !IsInFolderThrownAway(own, path, before);
+}
+
+// Does the file belong to a scenario or an opponent that is no longer shipped and in which the user changed
+// something? That stays whole.
+bool IsKeptForTheUser(const fs::path& own, const fs::path& path, const ShippedFiles& before,
+                      const ShippedFiles& now) {
+    const fs::path folder = path.parent_path();
+    if (!folder.has_parent_path() || HoldsFiles(now, folder.string() + '/')) return false;
+    return std::ranges::any_of(fs::directory_iterator(own / folder), [&](const auto& entry) {
+        const auto known = before.find((folder / entry.path().filename()).string());
+        return known == before.end() || HashOf(entry.path()) != known->second.hash;
+    });
 }
 
 Plan MakePlan(const fs::path& shipped, const fs::path& own, const ShippedFiles& before) {
@@ -218,7 +234,8 @@ Plan MakePlan(const fs::path& shipped, const fs::path& own, const ShippedFiles& 
         plan.shipped[path] = std::move(now);
     }
     for (const auto& [path, entry] : before) {
-        if (!plan.shipped.contains(path) && HashOf(own / path) == entry.hash) plan.removals.push_back(path);
+        if (plan.shipped.contains(path) || HashOf(own / path) != entry.hash) continue;
+        if (!IsKeptForTheUser(own, path, before, plan.shipped)) plan.removals.push_back(path);
     }
     return plan;
 }

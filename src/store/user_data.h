@@ -16,7 +16,8 @@ namespace quillet {
 // or for any other reason, the tree stays as it was; what is returned then tells why, and is empty otherwise.
 //
 // A file that was shipped for the first time is copied, unless the user has one of that name or has thrown
-// the folder away that it belongs to. A file that is no longer shipped goes, if it is as it was copied.
+// the folder away that it belongs to. A file that is no longer shipped goes, if it is as it was copied;
+// but a scenario or an opponent in which the user changed something stays whole.
 // A folder like "Scenarios" that is gone as a whole is copied again.
 // A real folder in the place of a link is the user's and stays.
 std::string RefreshUserData(const std::filesystem::path& shipped, const std::filesystem::path& own);

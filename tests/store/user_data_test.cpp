@@ -95,7 +95,7 @@ TEST_F(UserData, UpgradeReplacesOnlyWhatTheUserLeftAlone) {
     EXPECT_EQ(Own("Scenarios/Duel/8300.str"), "duel");
     EXPECT_EQ(Own("Data/Prefs/1000.str"), "T");
     EXPECT_EQ(Own("Word Lists/Words.qld"), "<none>");
-    EXPECT_EQ(Own("Opponents/Pip/203.str"), "<none>");
+    EXPECT_EQ(Own("Opponents/Pip/203.str"), "pip") << "stays whole";
     EXPECT_EQ(Own("Opponents/Pip/300.str"), "Words");
     // What was kept back stays so at the upgrades to come.
     Ship("Scenarios/Classic/8301.str", "COUNTS 2");
