@@ -60,9 +60,12 @@ start_quillet() {
     find_canvas
 }
 
+# The main window: a question of the program has the same title.
 find_window() {
-    window=$(xdotool search --onlyvisible --name '^Quillet$' | tail -1)
-    [[ -n $window ]]
+    for window in $(xdotool search --onlyvisible --name '^Quillet$'); do
+        xwininfo -id "$window" | awk '/^  Width:/ { exit $NF < 640 }' && return
+    done
+    return 1
 }
 
 is_painted() {
