@@ -1,4 +1,3 @@
-#include <gmock/gmock.h>
 
 #include "base/presentation.h"
 #include "support/dialog_test.h"
@@ -12,8 +11,6 @@ void UnmarkSquareAsked(int row, int col) { Record("UnmarkSquareAsked", row, col)
 Point InfoPanelMiddle() { return {7, 9}; }
 
 namespace {
-
-using testing::ElementsAre;
 
 using BlankLetter = DialogTest;
 constexpr int kLetter = BlankLetterControls::kLetter;
