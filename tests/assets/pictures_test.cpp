@@ -1,21 +1,16 @@
 // The shipped pictures: what the window takes for granted about them, and that what is written over them can
 // be read by everybody.
-#include <gtest/gtest.h>
 
-#include <algorithm>
-#include <array>
 #include <cmath>
 #include <filesystem>
 #include <fstream>
-#include <functional>
 #include <iterator>
 #include <numeric>
 #include <set>
-#include <string>
-#include <vector>
 
 #include "store/bitmap_files.h"
 #include "store/files.h"
+#include "support/testing.h"
 
 namespace quillet {
 namespace {
@@ -40,8 +35,8 @@ Image Load(const std::string& path, int scale = 1) {
 
 Image Graphics(const std::string& name, int scale = 1) { return Load("Data/Graphics/" + name, scale); }
 
-std::vector<std::string> FoldersIn(const std::string& name) {
-    std::vector<std::string> folders;
+Strings FoldersIn(const std::string& name) {
+    Strings folders;
     for (const auto& entry : fs::directory_iterator(fs::path(QUILLET_ASSETS) / name)) {
         if (entry.is_directory()) folders.push_back(name + "/" + entry.path().filename().string());
     }
@@ -82,22 +77,25 @@ double Luminance(Colour colour) {
 
 double Ratio(double a, double b) { return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05); }
 
+// Of each pixel.
+std::vector<double> Luminances(const Image& image, Area area) {
+    std::vector<double> luminances;
+    for (const Colour pixel : Pixels(image, area)) luminances.push_back(Luminance(pixel));
+    return luminances;
+}
+
 double MeanLuminance(const Image& image, Area area) {
-    const auto pixels = Pixels(image, area);
-    const double sum = std::accumulate(pixels.begin(), pixels.end(), 0.0,
-                                       [](double s, Colour colour) { return s + Luminance(colour); });
-    return sum / static_cast<double>(pixels.size());
+    const auto all = Luminances(image, area);
+    return std::accumulate(all.begin(), all.end(), 0.0) / static_cast<double>(all.size());
 }
 
 double MeanLuminance(const Image& image) { return MeanLuminance(image, Whole(image)); }
 
 // The least contrast of a colour with any pixel.
 double LeastContrast(Colour colour, const Image& image, Area area) {
-    double least = 21;
-    for (const Colour pixel : Pixels(image, area)) {
-        least = std::min(least, Ratio(Luminance(colour), Luminance(pixel)));
-    }
-    return least;
+    const double own = Luminance(colour);
+    const auto all = Luminances(image, area);
+    return Ratio(own, *std::ranges::min_element(all, {}, [&](double other) { return Ratio(own, other); }));
 }
 
 // --- Sizes ---
@@ -120,10 +118,17 @@ constexpr std::array kInterfaceSizes = {
 const std::array kSquares = {"b201", "b202", "b203", "b204", "b205", "b206", "b207", "b208",
                              "b209", "b301", "b302", "b303", "b304", "b305", "b306"};
 
-std::vector<std::string> SquareFolders() {
+Strings SquareFolders() {
     auto folders = FoldersIn("Scenarios");
     folders.emplace_back("Data/Graphics");
     return folders;
+}
+
+// The pictures of an opponent, from a folder: one for each mood.
+Strings MoodsIn(const std::string& folder) {
+    Strings moods;
+    for (const char mood : {'1', '2', '3', '4', '5'}) moods.push_back(folder + "/900" + mood);
+    return moods;
 }
 
 void ExpectSizeAndTwin(const std::string& path, int width, int height) {
@@ -142,8 +147,7 @@ TEST(PicturesTest, EveryPictureHasItsSizeAndATwinOfTwiceTheSize) {
         for (const std::string square : kSquares) ExpectSizeAndTwin(folder + "/" + square, 26, 26);
     }
     for (const auto& folder : FoldersIn("Opponents")) {
-        for (int mood = 1; mood <= 5; ++mood)
-            ExpectSizeAndTwin(folder + "/900" + std::to_string(mood), 215, 150);
+        for (const auto& mood : MoodsIn(folder)) ExpectSizeAndTwin(mood, 215, 150);
     }
 }
 
@@ -163,31 +167,29 @@ TEST(PicturesTest, IconsHaveTheSizeOfTheirName) {
 
 // --- Sheets ---
 
+// A sheet of square cells, with a line of one unit before each.
 struct Sheet {
     const char* name;
     int pitch;
-    bool letters;
+    int cells;   // that are used
+    int marked;  // of them, those that lie on tiles: letters, or values
 };
-constexpr std::array kSheets = {Sheet{"sqbig", 27, true}, Sheet{"sqsmall", 24, true},
-                                Sheet{"valbig", 27, false}, Sheet{"valsmall", 24, false}};
+constexpr std::array kSheets = {Sheet{"sqbig", 27, 36, 27}, Sheet{"sqsmall", 24, 36, 27},
+                                Sheet{"valbig", 27, 11, 11}, Sheet{"valsmall", 24, 11, 11}};
 constexpr std::string_view kValues = "1332142418513113:11114484:0";  // of A to Z and the blank
 
 // The inside of a cell: what is inked, row by row.
 using Ink = std::vector<bool>;
 
-Ink CellInk(const Image& sheet, int pitch, int scale, int row, int column) {
-    const Area cell =
-        At(scale, {column * pitch + 1, row * pitch + 1, (column + 1) * pitch, (row + 1) * pitch});
+Ink CellInk(const Sheet& sheet, int scale, int cell) {
+    const int columns = sheet.cells == 36 ? 9 : 11;
+    const int left = cell % columns * sheet.pitch;
+    const int top = cell / columns * sheet.pitch;
+    const Area inside = At(scale, {left + 1, top + 1, left + sheet.pitch, top + sheet.pitch});
     Ink ink;
-    for (const Colour pixel : Pixels(sheet, cell)) ink.push_back(pixel == kBlack);
+    for (const Colour pixel : Pixels(Graphics(sheet.name, scale), inside)) ink.push_back(pixel == kBlack);
     return ink;
 }
-
-Ink LetterInk(const Image& sheet, int pitch, int scale, int letter) {
-    return CellInk(sheet, pitch, scale, letter / 9, letter % 9);
-}
-
-bool HasInk(const Ink& ink) { return std::ranges::find(ink, true) != ink.end(); }
 
 TEST(PicturesTest, InkPicturesAreBlackAndWhiteAndNothingElse) {
     for (const std::string name : {"sqbig", "sqsmall", "valbig", "valsmall", "lock", "bagbw"}) {
@@ -198,75 +200,47 @@ TEST(PicturesTest, InkPicturesAreBlackAndWhiteAndNothingElse) {
     }
 }
 
-TEST(PicturesTest, SheetsHaveNoInkOnTheirLinesNorInTheUnusedRow) {
-    for (const auto& [name, pitch, letters] : kSheets) {
+// Neither the lines between the cells nor the outermost pixels of what lies on a tile are inked.
+TEST(PicturesTest, InkKeepsToItsCellsAndDiffersInEach) {
+    for (const Sheet& sheet : kSheets) {
         for (const int scale : kScales) {
-            const Image sheet = Graphics(name, scale);
-            int stray = 0;
-            for (int y = 0; y < sheet.height; ++y) {
-                for (int x = 0; x < sheet.width; ++x) {
-                    const bool outside =
-                        x / scale % pitch == 0 || y / scale % pitch == 0 || y / scale > 4 * pitch;
-                    stray += outside && sheet.At(x, y) == kBlack;
-                }
-            }
-            EXPECT_EQ(stray, 0) << name << " at scale " << scale;
-        }
-    }
-}
-
-// Tiles are inked without the outermost pixels of their cell.
-TEST(PicturesTest, LettersAndValuesKeepOffTheRimOfTheirCells) {
-    for (const auto& [name, pitch, letters] : kSheets) {
-        for (const int scale : kScales) {
-            const Image sheet = Graphics(name, scale);
-            const int size = (pitch - 1) * scale;
-            for (int n = 0; n < (letters ? 27 : 11); ++n) {
-                const Ink ink =
-                    letters ? LetterInk(sheet, pitch, scale, n) : CellInk(sheet, pitch, scale, 0, n);
-                EXPECT_TRUE(HasInk(ink)) << name << " cell " << n;
-                for (int i = 0; i < static_cast<int>(ink.size()); ++i) {
-                    const auto onRim = [&](int at) { return at < scale || at >= size - scale; };
-                    if (!onRim(i % size) && !onRim(i / size)) continue;
-                    EXPECT_FALSE(ink[static_cast<std::size_t>(i)]) << name << " cell " << n << " pixel " << i;
-                }
-            }
-        }
-    }
-}
-
-TEST(PicturesTest, EveryLetterAndEveryMarkDiffersFromAllOthers) {
-    for (const auto& [name, pitch, letters] : kSheets) {
-        for (const int scale : kScales) {
-            const Image sheet = Graphics(name, scale);
+            SCOPED_TRACE(std::string(sheet.name) + " at scale " + std::to_string(scale));
+            const int size = (sheet.pitch - 1) * scale;
+            const auto onRim = [&](int at) { return at < scale || at >= size - scale; };
             std::set<Ink> seen;
-            const int cells = letters ? 36 : 11;
-            for (int n = 0; n < cells; ++n) {
-                seen.insert(letters ? LetterInk(sheet, pitch, scale, n) : CellInk(sheet, pitch, scale, 0, n));
+            std::ptrdiff_t inked = 0;
+            for (int cell = 0; cell < sheet.cells; ++cell) {
+                const Ink ink = CellInk(sheet, scale, cell);
+                seen.insert(ink);
+                inked += std::ranges::count(ink, true);
+                for (int i = 0; cell < sheet.marked && i < size * size; ++i) {
+                    const bool rim = onRim(i % size) || onRim(i / size);
+                    EXPECT_FALSE(rim && ink[static_cast<std::size_t>(i)])
+                        << "cell " << cell << " pixel " << i;
+                }
             }
-            EXPECT_EQ(static_cast<int>(seen.size()), cells) << name << " at scale " << scale;
+            EXPECT_EQ(static_cast<int>(seen.size()), sheet.cells);
+            EXPECT_FALSE(seen.contains(Ink(static_cast<std::size_t>(size * size)))) << "an empty cell";
+            EXPECT_EQ(std::ranges::count(Graphics(sheet.name, scale).pixels, kBlack), inked) << "outside";
         }
     }
 }
 
 TEST(PicturesTest, ValuesStandClearOfTheirLetters) {
-    for (const bool big : {true, false}) {
+    for (const std::size_t big : {0U, 1U}) {
         for (const int scale : kScales) {
-            const int pitch = big ? 27 : 24;
-            const int size = (pitch - 1) * scale;
-            const Image letters = Graphics(big ? "sqbig" : "sqsmall", scale);
-            const Image values = Graphics(big ? "valbig" : "valsmall", scale);
+            const int size = (kSheets[big].pitch - 1) * scale;
             for (int n = 0; n < 27; ++n) {
-                const Ink letter = LetterInk(letters, pitch, scale, n);
+                const Ink letter = CellInk(kSheets[big], scale, n);
                 const Ink value =
-                    CellInk(values, pitch, scale, 0, kValues[static_cast<std::size_t>(n)] - '0');
+                    CellInk(kSheets[big + 2], scale, kValues[static_cast<std::size_t>(n)] - '0');
                 int touching = 0;
                 for (int i = size; i < size * (size - 1); ++i) {
                     if (!value[static_cast<std::size_t>(i)]) continue;
                     for (const int side : {0, -1, 1, -size, size})
                         touching += letter[static_cast<std::size_t>(i + side)];
                 }
-                EXPECT_EQ(touching, 0) << "letter " << n << ", pitch " << pitch << ", scale " << scale;
+                EXPECT_EQ(touching, 0) << "letter " << n << ", sheet " << big << ", scale " << scale;
             }
         }
     }
@@ -335,53 +309,35 @@ TEST(PicturesTest, WritingOnPanelsAndTilesCanBeRead) {
     }
 }
 
-TEST(PicturesTest, OpponentsLeaveTheLinesOverThemReadable) {
+TEST(PicturesTest, OpponentsLeaveTheLinesOverThemReadableInEveryMood) {
     constexpr Area kText{6, 6, 104, 144}, kFace{104, 6, 209, 144};  // most lines end before the face
     for (const auto& folder : FoldersIn("Opponents")) {
         std::ifstream item(fs::path(QUILLET_ASSETS) / folder / "203.str");
         const std::string colour{std::istreambuf_iterator<char>(item), {}};
         ASSERT_TRUE(colour == "white" || colour == "yellow") << folder;
         const Colour ink = colour == "white" ? kWhite : kYellow;
-        for (int mood = 1; mood <= 5; ++mood) {
+        std::set<std::vector<Colour>> moods;
+        for (const auto& mood : MoodsIn(folder)) {
+            moods.insert(Load(mood).pixels);
             for (const int scale : kScales) {
-                const Image picture = Load(folder + "/900" + std::to_string(mood), scale);
-                EXPECT_GE(LeastContrast(ink, picture, At(scale, kText)), 4.5) << folder << " " << mood;
-                const auto face = Pixels(picture, At(scale, kFace));
+                const Image picture = Load(mood, scale);
+                EXPECT_GE(LeastContrast(ink, picture, At(scale, kText)), 4.5) << mood;
+                const auto face = Luminances(picture, At(scale, kFace));
                 const auto bright = std::ranges::count_if(
-                    face, [&](Colour pixel) { return Ratio(Luminance(ink), Luminance(pixel)) < 4.5; });
-                EXPECT_LE(static_cast<double>(bright), 0.03 * static_cast<double>(face.size()))
-                    << folder << " " << mood;
+                    face, [&](double light) { return Ratio(Luminance(ink), light) < 4.5; });
+                EXPECT_LE(static_cast<double>(bright), 0.03 * static_cast<double>(face.size())) << mood;
             }
         }
+        EXPECT_EQ(moods.size(), 5U) << folder << ": some are alike";
     }
-}
-
-TEST(PicturesTest, MoodsOfAnOpponentAllDiffer) {
-    for (const auto& folder : FoldersIn("Opponents")) {
-        std::set<std::vector<Colour>> moods;
-        for (int mood = 1; mood <= 5; ++mood)
-            moods.insert(Load(folder + "/900" + std::to_string(mood)).pixels);
-        EXPECT_EQ(moods.size(), 5U) << folder;
-    }
-}
-
-struct Range {
-    double darkest, lightest;
-};
-
-Range LuminanceRange(const Image& image, Area area) {
-    Range range{1, 0};
-    for (const Colour pixel : Pixels(image, area)) {
-        range = {std::min(range.darkest, Luminance(pixel)), std::max(range.lightest, Luminance(pixel))};
-    }
-    return range;
 }
 
 TEST(PicturesTest, ButtonsCanBeReadAndFlashInLightAndDark) {
     constexpr Area kKey{6, 7, 53, 28};
     for (const std::string name : {"mix", "mixd", "done", "doned", "move", "moved", "movef"}) {
         for (const int scale : kScales) {
-            const auto [darkest, lightest] = LuminanceRange(Graphics(name, scale), At(scale, kKey));
+            const auto [darkest, lightest] =
+                std::ranges::minmax(Luminances(Graphics(name, scale), At(scale, kKey)));
             EXPECT_GE(Ratio(darkest, lightest), 7) << name << " at scale " << scale;
         }
     }
@@ -394,13 +350,15 @@ TEST(PicturesTest, ButtonsCanBeReadAndFlashInLightAndDark) {
 // --- Squares ---
 
 // Marks are laid over the bonus squares in white; the lines of the board are white too.
-TEST(PicturesTest, SquaresStandOutFromTheirWhiteMarks) {
+TEST(PicturesTest, SquaresStandOutFromTheirWhiteMarksAndFromTiles) {
+    const double tile = MeanLuminance(Graphics("tile"));
     for (const auto& folder : SquareFolders()) {
         for (std::size_t kind = 0; kind < kSquares.size(); ++kind) {
             for (const int scale : kScales) {
                 const Image square = Load(folder + "/" + kSquares[kind], scale);
                 const double needed = kind == 0 ? 3.2 : kind < 9 ? 4.5 : 3;
                 EXPECT_GE(Ratio(1, MeanLuminance(square)), needed) << folder << " kind " << kind;
+                EXPECT_GE(Ratio(tile, MeanLuminance(square)), 2.5) << folder << " kind " << kind;
                 if (kind < 9) {
                     EXPECT_GE(LeastContrast(kWhite, square, Whole(square)), 3) << folder << " kind " << kind;
                 }
@@ -420,16 +378,6 @@ TEST(PicturesTest, BonusSquaresGetDarkerWithTheirFactor) {
         EXPECT_LE(Ratio(light(1), light(2)), 1.15) << folder;
         for (std::size_t kind = 3; kind < 9; ++kind)
             EXPECT_LT(light(kind), light(kind - 2)) << folder << " " << kind;
-    }
-}
-
-TEST(PicturesTest, TilesStandOutFromAllSquares) {
-    const double tile = MeanLuminance(Graphics("tile"));
-    for (const auto& folder : SquareFolders()) {
-        for (const std::string square : kSquares) {
-            EXPECT_GE(Ratio(tile, MeanLuminance(Load(folder + "/" + square))), 2.5)
-                << folder << " " << square;
-        }
     }
 }
 

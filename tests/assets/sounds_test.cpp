@@ -60,7 +60,7 @@ float HighestIn(const Wave& wave, std::size_t from, std::size_t to) {
         *std::max_element(at(from), at(to), [](float a, float b) { return std::abs(a) < std::abs(b); }));
 }
 
-TEST(Sounds, AreShortEnoughAndAlikeInLoudness) {
+TEST(Sounds, AreShortAlikeInLoudnessAndSilentAtTheirEnds) {
     for (const Expected& sound : AllSounds()) {
         SCOPED_TRACE(sound.file);
         const Wave wave = Load(sound.file);
@@ -68,13 +68,6 @@ TEST(Sounds, AreShortEnoughAndAlikeInLoudness) {
         EXPECT_LE(wave.Seconds(), sound.maxSeconds);
         EXPECT_NEAR(LoudestMoment(wave), sound.loudness, 0.5);
         EXPECT_LE(PeakLevel(wave), -1.9) << "near clipping";
-    }
-}
-
-TEST(Sounds, BeginAndEndInSilence) {
-    for (const Expected& sound : AllSounds()) {
-        SCOPED_TRACE(sound.file);
-        const Wave wave = Load(sound.file);
         ASSERT_GT(wave.Moments(), 2U);
         EXPECT_LT(HighestIn(wave, 0, 1), 0.003F) << "clicks at the start";
         EXPECT_LT(HighestIn(wave, wave.Moments() - 2, wave.Moments()), 0.003F) << "clicks at the end";

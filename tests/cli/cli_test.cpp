@@ -1,20 +1,12 @@
 // The terminal companion as a user runs it: the real program, its output, its exit code.
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 #include <sys/wait.h>
 
-#include <array>
 #include <cstdio>
-#include <string>
 
 #include "support/temp_folder.h"
 
 namespace quillet {
 namespace {
-
-using testing::EndsWith;
-using testing::HasSubstr;
-using testing::StartsWith;
 
 struct Outcome {
     int exitCode = -1;
@@ -152,24 +144,22 @@ TEST_F(CliTest, WrongUseIsOneLineOnStandardErrorAndWritesNothing) {
     WriteFile("board", EmptyBoard());
     WriteFile("ragged", "...\n");
     WriteFile("astray", "CAT............\n" + EmptyBoard().substr(16));
-    const std::array cases{
-        std::string("frobnicate"),
-        std::string("selfplay --games 0"),
-        std::string("selfplay --players Ada"),
-        std::string("selfplay --players 'A 1' 'B 1' 'C 1' 'D 1' 'E 1'"),
-        std::string("selfplay --words Nowhere"),
+    const Strings cases{
+        "frobnicate",
+        "selfplay --games 0",
+        "selfplay --players Ada",
+        "selfplay --players 'A 1' 'B 1' 'C 1' 'D 1' 'E 1'",
+        "selfplay --words Nowhere",
         "selfplay --words " + Path("short.qld"),
-        std::string("selfplay --scenario Nowhere"),
+        "selfplay --scenario Nowhere",
         "selfplay --save " + Path("board"),
         "analyse " + Path("short.qld"),
         "selfplay --squares " + Path("ragged"),
         "moves --rack ABC --board " + Path("missing"),
-        "moves --rack ABC --board " + Path("ragged"),
         "moves --rack ABC --board " + Path("astray"),
         "moves --rack ABCDEFGH --board " + Path("board"),
         "moves --rack AB1 --board " + Path("board"),
         "wordlist build " + Path("empty.txt") + " " + Path("new.qld"),
-        "wordlist build " + Path("missing") + " " + Path("new.qld"),
         "wordlist dump " + Path("short.qld"),
     };
     for (const std::string& arguments : cases) {

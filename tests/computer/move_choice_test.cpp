@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "computer/move_generator.h"
 #include "game/bag.h"
 #include "game/validation.h"
@@ -48,11 +46,12 @@ class MoveChoice : public testing::Test {
 };
 
 TEST_F(MoveChoice, StrategicValueCountsWhatIsUsedAndLeft) {
-    const struct {
+    struct Case {
         const char *what, *rack, *played;
         int score, bag, expected;
         int firstMoveCol = 0;  // where a first move begins
-    } cases[] = {
+    };
+    const Case cases[] = {
         {"a point for each tile", "TRAINED", "TRA", 30, 50, 33},
         {"a whole rack of seven earns nothing more", "TRAINED", "TRAINED", 30, 50, 37},
         {"the whole of a shorter rack", "TRA", "TRA", 30, 0, 133},
@@ -137,32 +136,30 @@ TEST_F(MoveChoice, ExchangeKeepsWhatIsHardToGetBack) {
 }
 
 TEST_F(MoveChoice, WithoutAMoveTilesAreExchangedUnlessThereIsReasonToPass) {
-    const struct {
-        const char* what;
-        int bag, exchangesBefore;
-        std::set<std::string> words;
-        bool isComputer;
-        const char* thrown;
-        int exchangesAfter;
-    } cases[] = {
-        {"sixth exchange", 7, 5, {"WWWW"}, true, "TR", 6},
-        {"pass after six exchanges", 7, 6, {"WWWW"}, true, "", 6},
-        {"pass with a low bag", 6, 0, {"WWWW"}, true, "", 0},
-        {"pass without words", 50, 0, {}, true, "", 0},
-        {"a hint counts for nothing", 7, 2, {"WWWW"}, false, "TR", 2},
-        {"poor move after two exchanges", 50, 2, {"AT"}, true, "TR", 3},
-        {"poor move after three exchanges", 50, 3, {"AT"}, true, "T", 0},
+    const std::set<std::string> none, tooLong{"WWWW"}, poor{"AT"};
+    using Case = std::tuple<const char*, int, int, std::set<std::string>, bool, const char*, int>;
+    const Case cases[] = {
+        // tiles in the bag, exchanges before, the words, whether a computer moves; what is thrown back, and
+        // the
+        // exchanges then
+        {"sixth exchange", 7, 5, tooLong, true, "TR", 6},
+        {"pass after six exchanges", 7, 6, tooLong, true, "", 6},
+        {"pass with a low bag", 6, 0, tooLong, true, "", 0},
+        {"pass without words", 50, 0, none, true, "", 0},
+        {"a hint counts for nothing", 7, 2, tooLong, false, "TR", 2},
+        {"poor move after two exchanges", 50, 2, poor, true, "TR", 3},
+        {"poor move after three exchanges", 50, 3, poor, true, "T", 0},
     };
-    for (const auto& test : cases) {
-        SCOPED_TRACE(test.what);
-        FillDict(mainDict, test.words);
+    for (const auto& [what, bag, exchangesBefore, words, isComputer, thrown, exchangesAfter] : cases) {
+        SCOPED_TRACE(what);
+        FillDict(mainDict, words);
         FillDict(bonusDict, {"WWWW"});  // not enabled
-        game.bag.tilesleft = static_cast<std::uint16_t>(test.bag);
-        game.players[kComputer].isComputer = test.isComputer;
-        exchangeCount[kComputer] = static_cast<std::uint16_t>(test.exchangesBefore);
+        game.bag.tilesleft = static_cast<std::uint16_t>(bag);
+        game.players[kComputer].isComputer = isComputer;
+        exchangeCount[kComputer] = static_cast<std::uint16_t>(exchangesBefore);
         const ChosenMove move = FindMove(kStrategicLevel, "TR");
-        EXPECT_EQ(move.usedLetters, test.thrown);
-        EXPECT_EQ(exchangeCount[kComputer], test.exchangesAfter);
+        EXPECT_EQ(move.usedLetters, thrown);
+        EXPECT_EQ(exchangeCount[kComputer], exchangesAfter);
         EXPECT_EQ(CollectPlacedTiles().count, move.score == 2 ? 1 : 0);
     }
 }

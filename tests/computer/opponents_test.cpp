@@ -1,41 +1,20 @@
 #include "computer/opponents.h"
 
-#include <gmock/gmock.h>
-
 #include "store/bitmap_files.h"
-#include "store/preferences.h"
-#include "support/temp_folder.h"
+#include "support/world.h"
 
 namespace quillet {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
-class Opponents : public TempFolder {
+class Opponents : public World {
   protected:
-    Opponents() {
-        game = FreshGameState();
-        opponentTable = {};
-        ClosePrefs();
-        MakeFolder("Data/Prefs");
-        LoadPreferences();
-    }
+    Opponents() { LoadPreferences(); }
 
     void WriteItem(const std::string& opponent, int id, const std::string& value) {
         WriteFile("Opponents/" + opponent + "/" + std::to_string(id) + ".str", value);
     }
-
-    static void SetPlayers(const std::vector<std::string>& names) {
-        game.numPlayers = static_cast<std::uint16_t>(names.size());
-        for (int p = 1; p <= game.numPlayers; ++p) {
-            game.players[p].name = std::string_view(names[static_cast<std::size_t>(p) - 1]);
-            PlayerKindFromName(p);
-        }
-    }
-
-    static std::vector<std::string> Listed() {
-        std::vector<std::string> names;
+    static Strings Listed() {
+        Strings names;
         for (int i = 1; i <= opponentTable.numOpponents; ++i) {
             names.emplace_back(opponentTable.entries[static_cast<std::size_t>(i)].name.View());
         }
@@ -45,8 +24,8 @@ class Opponents : public TempFolder {
 };
 
 TEST_F(Opponents, FoldersAreListedSortedAndCut) {
-    for (const char* name : {"strix", "Pip", "Grandmaster", ".hidden", "Zoe"})
-        MakeFolder("Opponents/" + std::string(name));
+    for (const std::string name : {"strix", "Pip", "Grandmaster", ".hidden", "Zoe"})
+        MakeFolder("Opponents/" + name);
     WriteFile("Opponents/.gitkeep", "");
     ListOpponents();
     EXPECT_THAT(Listed(), ElementsAre("Grandmaste", "Pip", "strix", "Zoe"));
@@ -61,30 +40,12 @@ TEST_F(Opponents, WithoutTheirFolderThePlayersAreStillRead) {
     SetPlayers({"Ann", "Bo 7"});
     SavePlayers();
     game = FreshGameState();
-    for (Player& player : game.players) player.rack.positions[1] = 'A';
+    game.players[1].rack.positions[1] = 'A';
     ListOpponents();
-    for (const Player& player : game.players) EXPECT_EQ(player.rack.EmptyPosition(), 1);
+    EXPECT_EQ(RackOf(1), "");
     EXPECT_THAT(TakeMessages(), ElementsAre("The Opponents folder is missing!"));
     EXPECT_THAT(Listed(), IsEmpty());
     EXPECT_TRUE(game.numPlayers == 2 && game.players[1].name == "Ann" && game.players[2].skill == 7);
-}
-
-TEST_F(Opponents, NameTellsSkillAndOpponent) {
-    for (const char* name : {"Pip", "Strix"}) MakeFolder("Opponents/" + std::string(name));
-    ListOpponents();
-    struct Case {
-        std::string name;
-        bool isComputer;
-        int skill, opponent;
-    };
-    for (const Case& c : {Case{"Strix 7", true, 7, 2}, Case{"Pip  0", true, 0, 1}, Case{"Pip9", true, 9, 1},
-                          Case{"Bob 2", true, 2, 0}, Case{"Pip", false, 0, 0}}) {
-        SetPlayers({c.name});
-        const Player& player = game.players[1];
-        EXPECT_TRUE(player.isComputer == c.isComputer && player.skill == c.skill &&
-                    player.opponent == c.opponent)
-            << c.name;
-    }
 }
 
 TEST_F(Opponents, OnlyThoseWhoPlayAreLoaded) {
@@ -96,7 +57,6 @@ TEST_F(Opponents, OnlyThoseWhoPlayAreLoaded) {
     MakeFolder("Opponents/Strix");
     ListOpponents();
     SetPlayers({"Pip 4", "Ann", "Pip 9", "Strix 3"});
-    LoadOpponentData();
     EXPECT_EQ(Entry(1).lexicon, "") << "Bo does not play";
     EXPECT_EQ(Entry(2).lexicon, "Large");
     EXPECT_EQ(Entry(2).textColour, 0xFFFF00U);
@@ -107,7 +67,6 @@ TEST_F(Opponents, OnlyThoseWhoPlayAreLoaded) {
 
     std::filesystem::remove_all(root / "Opponents/Bo");
     SetPlayers({"Bo 4"});
-    LoadOpponentData();
     EXPECT_FALSE(Entry(2).pictures[4]) << "pictures of those who left are dropped";
     EXPECT_EQ(Entry(1).voices[1], "");
     EXPECT_THAT(TakeMessages(), IsEmpty());
@@ -132,7 +91,7 @@ TEST_F(Opponents, WordListChoicesOfferAllListsThatHaveAName) {
 }
 
 TEST_F(Opponents, ChosenWordListIsKeptInTheFolder) {
-    const std::vector<std::string> choices{"Current word list", "Animals", "Large"};
+    const Strings choices{"Current word list", "Animals", "Large"};
     WriteItem("Pip", 300, "large");
     ListOpponents();
     EXPECT_EQ(WordListChoiceOf(1, choices), 2U);
@@ -151,22 +110,6 @@ TEST_F(Opponents, ChosenWordListIsKeptInTheFolder) {
     std::filesystem::remove_all(root / "Opponents/Pip");
     SaveOpponentLexicon(1, choices, 1);
     EXPECT_THAT(TakeMessages(), ElementsAre("Could not find opponent: Pip"));
-}
-
-TEST_F(Opponents, ShippedOnesAreWhole) {
-    const auto assets = std::filesystem::path(__FILE__).parent_path() / "../../assets";
-    std::filesystem::copy(assets / "Opponents", root / "Opponents", std::filesystem::copy_options::recursive);
-    ListOpponents();
-    EXPECT_GE(Listed().size(), 8U);
-    SetPlayers({"Cogwell 1", "Pip 2", "Strix 3", "Octavia 4"});
-    LoadOpponentData();
-    std::string summary;
-    for (int p = 1; p <= 4; ++p) {
-        const Opponent& opponent = Entry(static_cast<std::size_t>(game.players[p].opponent));
-        summary +=
-            std::string(opponent.textColour == kWhite ? "white " : "yellow ").append(opponent.lexicon) + "/";
-    }
-    EXPECT_EQ(summary, "yellow /white Common/white Large/white /");
 }
 
 }  // namespace

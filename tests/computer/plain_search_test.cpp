@@ -1,29 +1,21 @@
 #include "computer/plain_search.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <set>
 
 #include "game/validation.h"
 #include "support/positions.h"
+#include "support/testing.h"
 
 namespace quillet {
 namespace {
 
-using testing::Contains;
-using testing::ElementsAre;
+Strings Found(std::string_view rack, std::optional<int> ceiling = std::nullopt) {
+    CandidateList list;
+    SearchPlainly(RequestFor(rack, ceiling), list);
+    return Describe(list);
+}
 
-class PlainSearchTest : public testing::Test {
-  protected:
-    static std::vector<std::string> Found(std::string_view rack, std::optional<int> ceiling = std::nullopt) {
-        CandidateList list;
-        SearchPlainly(RequestFor(rack, ceiling), list);
-        return Describe(list);
-    }
-};
-
-TEST_F(PlainSearchTest, FirstMovesCoverTheStartSquareAcrossBeforeDownShortLeftPartsFirst) {
+TEST(PlainSearch, FirstMovesCoverTheStartSquareAcrossBeforeDownShortLeftPartsFirst) {
     SetUpPlainBoard({"A", "AT", "TA"});
     EXPECT_THAT(Found("TA"), ElementsAre("across AT 8,8: A@8,8 T@8,9 = 2", "across TA 8,8: T@8,8 A@8,9 = 2",
                                          "across AT 8,7: A@8,7 T@8,8 = 2", "across TA 8,7: T@8,7 A@8,8 = 2",
@@ -32,18 +24,15 @@ TEST_F(PlainSearchTest, FirstMovesCoverTheStartSquareAcrossBeforeDownShortLeftPa
                                          "across A 8,8: A@8,8 = 1", "down A 8,8: A@8,8 = 1"));
 }
 
-TEST_F(PlainSearchTest, SingleTileBelowAWordIsFoundOnlyDown) {
+TEST(PlainSearch, SingleTileBelowAWordIsFoundOnlyDown) {
     SetUpPlainBoard({"A", "AT", "T"});
     LayFrozenTiles(8, 8, "AA");
     EXPECT_THAT(Found("T"), ElementsAre("down AT 8,8: T@8,9 = 2", "down AT 9,8: T@9,9 = 2"));
 }
 
-TEST_F(PlainSearchTest, RealTileRatherThanBlankLandsOnTheSquareOfHigherKind) {
-    struct {
-        const char* kinds;  // of squares 8,8 to 8,10
-        int blankValue;
-        const char* tiles;  // of the word AXA there, and its score
-    } constexpr kCases[] = {
+TEST(PlainSearch, RealTileRatherThanBlankLandsOnTheSquareOfHigherKind) {
+    const std::tuple<const char*, int, std::string> cases[] = {
+        // kinds of the squares 8,8 to 8,10, a blank's value; tiles of the word AXA there, and its score
         {"...", 0, "A@8,8 X@8,9 [A@8,10 = 9"},   // left to right
         {"..d", 0, "[A@8,8 X@8,9 A@8,10 = 10"},  // moved
         {"..d", 1, "A@8,8 X@8,9 [A@8,10 = 11"},  // a blank no worse than the letter stays
@@ -51,15 +40,15 @@ TEST_F(PlainSearchTest, RealTileRatherThanBlankLandsOnTheSquareOfHigherKind) {
         {"t.D", 0, "A@8,8 X@8,9 [A@8,10 = 22"},  // by kind, not by what it scores
         {"p.P", 0, "[A@8,8 X@8,9 A@8,10 = 45"},  // even to a lower score
     };
-    for (const auto& test : kCases) {
+    for (const auto& [kinds, blankValue, tiles] : cases) {
         SetUpPlainBoard({"AXA"});
-        for (int i = 0; i < 3; ++i) game.board[8][8 + i].kind = KindFromCharacter(test.kinds[i]);
-        game.settings.letterValues[kBlank] = test.blankValue;
-        EXPECT_THAT(Found("[XA"), Contains(std::string("across AXA 8,8: ") + test.tiles)) << test.kinds;
+        for (int i = 0; i < 3; ++i) game.board[8][8 + i].kind = KindFromCharacter(kinds[i]);
+        game.settings.letterValues[kBlank] = blankValue;
+        EXPECT_THAT(Found("[XA"), Contains("across AXA 8,8: " + tiles)) << kinds;
     }
 }
 
-TEST_F(PlainSearchTest, BonusWordInTheListIsFoundTwice) {
+TEST(PlainSearch, BonusWordInTheListIsFoundTwice) {
     SetUpPlainBoard({"AT"});
     FillDict(bonusDict, {"AT"});
     LayFrozenTiles(8, 8, "A");
@@ -70,11 +59,11 @@ TEST_F(PlainSearchTest, BonusWordInTheListIsFoundTwice) {
                                         "across AT 8,8: T@8,9 = 2", "down AT 8,8: T@8,9 = 2"));
 }
 
-TEST_F(PlainSearchTest, TwentyBestAreKeptAndAmongEqualsTheFirstFound) {
+TEST(PlainSearch, TwentyBestAreKeptAndAmongEqualsTheFirstFound) {
     SetUpPlainBoard({"AB", "AC", "AD", "AE", "AF", "AG"});
     for (char letter = 'A'; letter <= 'G'; ++letter) game.settings.letterValues[letter] = letter - 'A' + 1;
     const auto wordsFromA = [](const std::string& letters) {
-        std::vector<std::string> texts;
+        Strings texts;
         for (char letter : letters) {
             const std::string score = " = " + std::to_string(letter - 'A' + 2);
             for (const std::string direction : {"across A", "down A"}) {
@@ -139,7 +128,7 @@ std::set<std::string> PlacementsOf(const CandidateList& list) {
     return placements;
 }
 
-TEST_F(PlainSearchTest, FindsExactlyWhatTheRulesAllow) {
+TEST(PlainSearch, FindsExactlyWhatTheRulesAllow) {
     int compared = 0;
     for (std::uint32_t seed = 1; seed <= 40; ++seed) {
         RandomPosition world(seed);

@@ -1,15 +1,9 @@
 #include "data/help_topics.h"
 
-#include <gmock/gmock.h>
-
 #include "support/temp_folder.h"
 
 namespace quillet {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::SizeIs;
 
 using Help = TempFolder;
 

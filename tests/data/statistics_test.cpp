@@ -1,19 +1,13 @@
 #include "data/statistics.h"
 
-#include <gmock/gmock.h>
-
-#include "support/temp_folder.h"
+#include "support/world.h"
 
 namespace quillet {
 namespace {
 
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-
 constexpr std::size_t kSummarySize = 15 * 82;
 
-class Statistics : public TempFolder {
+class Statistics : public World {
   protected:
     Statistics() {
         MakeFolder("Statistics");
@@ -21,20 +15,18 @@ class Statistics : public TempFolder {
     }
 
     // A game that ended with these scores; the players take turns with these moves.
-    static void EndGame(const std::vector<std::pair<std::string, int>>& players,
+    static void EndGame(const std::vector<std::pair<std::string, int>>& results,
                         const std::vector<int>& moves) {
         game = FreshGameState();
-        game.numPlayers = static_cast<std::uint16_t>(players.size());
-        for (std::uint16_t i = 1; i <= game.numPlayers; ++i) {
-            game.players[i].name = PlayerName(players[i - 1U].first);
-            game.players[i].score = players[i - 1U].second;
-        }
+        Strings names;
+        for (const auto& [name, score] : results) names.push_back(name);
+        SetPlayers(names);
         for (const int score : moves) {
-            const int player = game.history.movesCount % 2 + 1;
-            MoveRecord& move = game.history.records[++game.history.movesCount];
-            move.player = static_cast<std::uint16_t>(player);
-            move.score = score;
-            ++game.players[player].turns;
+            GiveScore(game.history.movesCount % 2 + 1, score);
+            ++game.players[game.history.Last().player].turns;
+        }
+        for (int p = 1; p <= game.numPlayers; ++p) {
+            game.players[p].score = results[static_cast<std::size_t>(p) - 1].second;
         }
         RecordGameStatistics();
     }

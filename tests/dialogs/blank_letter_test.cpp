@@ -1,4 +1,3 @@
-#include <gmock/gmock.h>
 
 #include "base/presentation.h"
 #include "game/game_state.h"
@@ -13,8 +12,6 @@ void UnmarkSquareAsked(int row, int col) { Record("UnmarkSquareAsked", row, col)
 Point InfoPanelMiddle() { return {7, 9}; }
 
 namespace {
-
-using testing::ElementsAre;
 
 using BlankLetter = DialogTest;
 constexpr int kLetter = BlankLetterControls::kLetter;

@@ -1,6 +1,5 @@
 // Keeps the house in order: reads the includes of the sources and finds what breaks the plan of
 // docs/architecture.md.
-#include <gmock/gmock.h>
 
 #include <map>
 #include <regex>
@@ -12,9 +11,6 @@ namespace quillet {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::ElementsAre;
-using testing::IsEmpty;
-using Strings = std::vector<std::string>;
 
 struct Floor {
     std::string place;  // a folder or file, from the project's root
@@ -135,47 +131,32 @@ TEST(House, IsInOrder) { EXPECT_THAT(House(QUILLET_PROJECT_FOLDER).faults, IsEmp
 
 using Floors = TempFolder;
 
-// A small house in good order; each case adds one file that breaks a rule.
+// A small house that is in order, but for a file that breaks each rule.
 TEST_F(Floors, EachBrokenRuleIsFound) {
     EXPECT_THAT(House(root).faults, ElementsAre("there are no sources"));
-    WriteFile("src/CMakeLists.txt", "floor(x\n  SOURCES store/a.cpp main.cpp) # store/old.cpp\n");
+    for (const char* file : {"store/a.cpp", "shell/loop.h", "platform/window.h", "platform/ticks.h",
+                             "platform/qt/start.h", "game/loop.h", "attic/b.h"})
+        WriteFile(std::string("src/") + file, "");
+    WriteFile("src/CMakeLists.txt", "SOURCES # store/a.cpp\n");
     WriteFile("src/main.cpp", "#include \"platform/qt/start.h\"\n#include \"shell/loop.h\"\n");
-    WriteFile("src/shell/loop.h", "#include \"platform/window.h\"\n#include \"store/a.h\"\n");
-    WriteFile("src/store/a.cpp", "#include \"store/a.h\"\n#include \"platform/ticks.h\"\n");
-    WriteFile("src/store/a.h", "#include <string>\n");
-    WriteFile("src/platform/ticks.h", "");
-    WriteFile("src/platform/window.h", "");
-    WriteFile("src/platform/qt/start.h", "#include <QWidget>\n#include \"platform/window.h\"\n");
-    WriteFile("src/platform/headless/headless.h", "#include \"platform/ticks.h\"\n");
-    WriteFile("cli/own.h", "#include \"platform/headless/headless.h\"\n");
-    WriteFile("cli/main.cpp", "#include \"own.h\"\n#include \"store/a.h\"\n");
-    ASSERT_THAT(House(root).faults, IsEmpty());
-    const std::tuple<std::string, std::string, std::string> cases[] = {
-        {"src/store/b.h", "\"shell/loop.h\"", "on a higher floor"},
-        {"cli/b.h", "\"shell/loop.h\"", "on a higher floor"},
-        {"src/platform/b.h", "\"store/a.h\"", "on a higher floor"},
-        {"src/platform/headless/b.h", "\"store/a.h\"", "on a higher floor"},
-        {"src/store/b.h", "\"platform/window.h\"", "of the window"},
-        {"src/shell/b.h", "\"platform/qt/start.h\"", "chosen by linking"},
-        {"src/shell/b.h", "\"../../cli/own.h\"", "the terminal companion's own"},
-        {"src/view/b.h", "<QtCore/QString>", "of the toolkit"},
-        {"src/store/b.h", "\"store/none.h\"", "nowhere in the house"},
-    };
-    for (const auto& [file, name, why] : cases) {
-        WriteFile(file, "  #  include " + name);
-        EXPECT_THAT(House(root).faults,
-                    ElementsAre(file + " includes " + name.substr(1, name.size() - 2) + ", which is " + why));
-        Remove(file);
-    }
-    WriteFile("src/attic/b.h", "");
-    WriteFile("src/store/a.h", "#include \"store/c.h\"\n");
-    WriteFile("src/store/c.h", "#include \"store/a.h\"\n");
-    WriteFile("src/store/old.cpp", "");
+    WriteFile("src/store/b.h", "#include \"platform/ticks.h\"\n  #  include \"shell/loop.h\"\n");
+    WriteFile("src/store/c.h", "#include \"platform/window.h\"\n#include \"none.h\"\n");
+    WriteFile("src/view/b.h", "#include <QtCore/QString>\n#include \"platform/qt/start.h\"\n");
+    WriteFile("src/game/loop.h", "#include \"loop.h\"\n");
+    WriteFile("cli/own.h", "#include \"platform/headless/headless.h\"\n#include \"shell/loop.h\"\n");
+    WriteFile("src/platform/headless/headless.h", "#include \"store/b.h\"\n");
     EXPECT_THAT(House(root).faults,
-                testing::IsSupersetOf({"src/attic/b.h is on no floor",
-                                       "src/store/a.h is in a loop of includes, or leads to one",
-                                       "src/store/c.h is in a loop of includes, or leads to one",
-                                       "src/store/old.cpp is not named in src/CMakeLists.txt"}));
+                testing::UnorderedElementsAre(
+                    "src/attic/b.h is on no floor", "src/main.cpp is not named in src/CMakeLists.txt",
+                    "src/store/a.cpp is not named in src/CMakeLists.txt",
+                    "src/store/b.h includes shell/loop.h, which is on a higher floor",
+                    "src/store/c.h includes platform/window.h, which is of the window",
+                    "src/store/c.h includes none.h, which is nowhere in the house",
+                    "src/view/b.h includes QtCore/QString, which is of the toolkit",
+                    "src/view/b.h includes platform/qt/start.h, which is chosen by linking",
+                    "src/platform/headless/headless.h includes store/b.h, which is on a higher floor",
+                    "cli/own.h includes shell/loop.h, which is on a higher floor",
+                    "src/game/loop.h is in a loop of includes, or leads to one"));
 }
 
 }  // namespace

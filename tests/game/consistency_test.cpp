@@ -1,7 +1,5 @@
 #include "game/consistency.h"
 
-#include <gmock/gmock.h>
-
 #include "support/world.h"
 
 namespace quillet {
@@ -30,7 +28,7 @@ TEST_F(Consistency, EachKindOfDamageIsFound) {
     for (const auto& [damage, found] : cases) {
         game = sound;
         damage();
-        EXPECT_THAT(FindInconsistency(game).value_or("nothing"), testing::HasSubstr(found));
+        EXPECT_THAT(FindInconsistency(game).value_or("nothing"), HasSubstr(found));
     }
 }
 

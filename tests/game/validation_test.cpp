@@ -1,15 +1,11 @@
 #include "game/validation.h"
 
-#include <gmock/gmock.h>
-
 #include "game/bag.h"
 #include "support/world.h"
 #include "words/dict.h"
 
 namespace quillet {
 namespace {
-
-using testing::ElementsAre;
 
 // What lies or is printed on the board from a square, its row and column, on.
 using Pieces = std::vector<std::tuple<int, int, std::string>>;
@@ -66,7 +62,7 @@ TEST_F(Validation, FirstBrokenRuleIsReported) {
     };
     for (const auto& [name, position, message] : cases) {
         EXPECT_EQ(ValidatePlacement(Lay(position).extent), message.empty()) << name;
-        EXPECT_EQ(TakeMessages(), std::vector<std::string>(message.empty() ? 0 : 1, message)) << name;
+        EXPECT_EQ(TakeMessages(), Strings(message.empty() ? 0 : 1, message)) << name;
     }
 }
 

@@ -1,13 +1,8 @@
 #include "platform/shared/wave_file.h"
-
-#include <gmock/gmock.h>
-
-#include <string>
+#include "support/testing.h"
 
 namespace quillet {
 namespace {
-
-using testing::ElementsAre;
 
 std::string Number(std::uint32_t number, int bytes) {
     std::string text;

@@ -1,17 +1,11 @@
 #include "play/history.h"
 
-#include <gmock/gmock.h>
-
-#include "base/messages.h"
 #include "game/bag.h"
 #include "play/turns.h"
-#include "store/preferences.h"
 #include "support/random_games.h"
 
 namespace quillet {
 namespace {
-
-using testing::ElementsAre;
 
 using History = World;
 
@@ -31,7 +25,7 @@ TEST_F(History, AllMovesTakenBackAndPlayedAgainGiveTheSameGame) {
         random.Play(random.Choose(0, 1) == 0 ? 500 : 20);
         while (game.history.redoCount > 0) RedoMove();
         recorded = {};
-        std::vector<std::string> texts{GameText()};
+        Strings texts{GameText()};
         while (game.history.movesCount > 0) {
             UndoMove();
             ExpectConsistent();
@@ -135,23 +129,22 @@ TEST_F(History, LinesStandInTheirColumns) {
     history.movesCount = 1;
     history.redoCount = 11;
     game.gameOver = false;
+    preferences.timerEnabled = true;
     const auto lines = [](int player) {
-        std::vector<std::string> texts;
+        Strings texts;
         for (int i = 1; i <= HistoryLineCount(player); ++i) {
             texts.push_back(std::to_string(HistoryRecord(player, i)) + "|" + HistoryLine(player, i));
         }
         return texts;
     };
-    EXPECT_THAT(lines(1), ElementsAre("1|1     C(A)T                8",   //
-                                      "3|3   + replaced Q?          0",   //
-                                      "12|12  + (A)(B)(C)(D)(E)FG 1234",  //
-                                      "13|      Redo all moves."));
-    preferences.timerEnabled = true;
     EXPECT_THAT(lines(1), ElementsAre("1|1     C(A)T                8       24:00",   //
                                       "3|3   + replaced Q?          0        0:05",   //
                                       "12|12  + (A)(B)(C)(D)(E)FG 1234        0:00",  //
                                       "13|      Redo all moves."));
     EXPECT_EQ(lines(2)[0], "2|2   \xB7 passed               0       +0:30");
+    preferences.timerEnabled = false;
+    EXPECT_EQ(lines(1)[1], "3|3   + replaced Q?          0");
+    preferences.timerEnabled = true;
     history.redoCount = 0;
     EXPECT_EQ(HistoryLineCount(2), 0);
     game.gameOver = true;

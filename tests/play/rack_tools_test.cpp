@@ -1,31 +1,22 @@
 #include "play/rack_tools.h"
 
-#include <gmock/gmock.h>
-
-#include <algorithm>
-
 #include "computer/move_choice.h"
 #include "play/turns.h"
-#include "store/preferences.h"
 #include "support/world.h"
 
 namespace quillet {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
 using testing::IsSubsetOf;
-using Strings = std::vector<std::string>;
 
 class RackTools : public World {
   protected:
-    // A rack with an empty place before and between its tiles.
+    // A rack with empty places before and between its tiles.
     static void GiveSpreadRack(std::string_view codes) {
         GiveRack(1, codes);
         auto& positions = game.players[1].rack.positions;
-        std::rotate(positions.entries.begin() + 1, positions.entries.begin() + 7,
-                    positions.entries.begin() + 8);
-        std::rotate(positions.entries.begin(), positions.entries.begin() + 7, positions.entries.begin() + 8);
+        std::rotate(positions.begin() + 1, positions.begin() + 7, positions.begin() + 8);
+        std::rotate(positions.begin(), positions.begin() + 7, positions.begin() + 8);
     }
     static Strings Hint(int level) {
         recorded.calls.clear();
@@ -57,19 +48,15 @@ TEST_F(RackTools, PermuteVisitsEachArrangementOnceInOrder) {
 TEST_F(RackTools, MixKeepsTheTilesAndCompactsThem) {
     StartGame({"Ada"});
     const std::string rack = "AEIRST?";
-    GiveSpreadRack(rack);
     int atHome = 0;
     for (int mix = 0; mix < 300; ++mix) {
+        if (mix % 100 == 0) GiveSpreadRack(rack);
         MixRack();
-        const std::string mixed = RackOf(1);
-        EXPECT_TRUE(std::ranges::is_permutation(mixed, rack)) << mixed;
-        EXPECT_TRUE(game.players[1].rack.EmptyPosition() == 8);
-        atHome += mixed[0] == 'A';
+        EXPECT_THAT(RackOf(1), testing::UnorderedElementsAreArray(rack));
+        EXPECT_EQ(game.players[1].rack.EmptyPosition(), 8);
+        atHome += RackOf(1)[0] == 'A';
     }
     EXPECT_TRUE(atHome > 20 && atHome < 70) << atHome;  // of 300 / 7
-    GiveSpreadRack("Q");
-    MixRack();
-    EXPECT_EQ(game.players[1].rack.positions[1], 'Q');
 }
 
 TEST_F(RackTools, BeepWhereThereIsNothingToDoAndSoundAsTheOptionSays) {
@@ -102,21 +89,17 @@ TEST_F(RackTools, HintLaysOutThePlacementForDone) {
     PutTiles(3, 3, "V");
     game.thrownBack = "E";
     game.players[1].rack.positions[7] = 0;
-    const Strings shown = Hint(8);
+    EXPECT_THAT(Strings({"ShowWaitCursor", "DrawSquare 3 3", "RedrawLettersLeft", "RedrawRack",
+                         "DrawBoardTile 8 5 C", "DrawBoardTile 8 6 A", "DrawBoardTile 8 7 T",
+                         "DrawBoardTile 8 8 [", "FlashSquares 8 5 8 6 8 7 8 8"}),
+                IsSubsetOf(Hint(8)));
+    EXPECT_EQ(recorded.calls.back(), "ShowArrowCursor");
     EXPECT_EQ(RackOf(1), "VVE");
     EXPECT_THAT(StatusLines(), ElementsAre("Your move Ada.", "Score = 5"));
-    EXPECT_EQ(shown.front(), "ShowWaitCursor");
-    EXPECT_EQ(shown.back(), "ShowArrowCursor");
-    EXPECT_THAT(Strings({"DrawSquare 3 3", "RedrawLettersLeft", "RedrawRack", "DrawBoardTile 8 5 C",
-                         "DrawBoardTile 8 6 A", "DrawBoardTile 8 7 T", "DrawBoardTile 8 8 [",
-                         "FlashSquares 8 5 8 6 8 7 8 8"}),
-                IsSubsetOf(shown));
     preferences.blinkComputerMoves = false;
-    Hint(8);
-    EXPECT_EQ(recorded.Count("Flash"), 0);
+    EXPECT_THAT(Hint(8), Not(Contains(StartsWith("Flash"))));
     recorded.blankLetters = {'S'};
     FinishTurn();
-    ExpectConsistent();
     EXPECT_EQ(game.history.Last().letters, "CAT[S");
     EXPECT_EQ(game.history.Last().score, 5);
 }
@@ -137,20 +120,14 @@ TEST_F(RackTools, HintToExchangePutsTheLettersAsideForDone) {
     EXPECT_EQ(game.history.Last().letters, "{VVWWCCF}");
 }
 
-TEST_F(RackTools, HintToPassLeavesEverythingAsItWas) {
-    StartGame({"Ada", "Bo"});
+TEST_F(RackTools, HintsAreForHumansWhoAllowThem) {
+    StartGame({"Ada", "Bo 4"});
     GiveRack(1, "VVWWCCF");
     PutTiles(8, 8, "V");
     Hint(9);
     EXPECT_EQ(recorded.Count("ShowStatusLine 2 Pass!"), 1);
     EXPECT_EQ(RackOf(1), "VVWWCCF");
-    EXPECT_TRUE(game.StartSquareIsEmpty() && game.thrownBack.empty());
-    EXPECT_EQ(exchangeCount[1], 0);
-}
-
-TEST_F(RackTools, HintsAreForHumansWhoAllowThem) {
     SetWords({"AT"});
-    StartGame({"Ada", "Bo 4"});
     preferences.allowHints = false;
     EXPECT_THAT(Hint(8), IsEmpty());
     EXPECT_THAT(TakeMessages(),
@@ -165,33 +142,29 @@ TEST_F(RackTools, HintsAreForHumansWhoAllowThem) {
 }
 
 TEST_F(RackTools, SwappingWithTheBagRewritesTheLatestDrawOfThatLetter) {
-    struct Case {
-        std::vector<std::string> drawn;  // after each move so far, Ada's the first
-        std::vector<std::string> rewritten;
-        const char* startRack;
-    };
-    const Case cases[] = {
+    const std::tuple<Strings, Strings, const char*> cases[] = {
+        // drawn after each move so far, Ada's the first; the same then, and her rack at the start
         {{"DOD", "D", "AD", "D"}, {"DOD", "D", "AZ", "D"}, "DAD"},
         {{"DOD", "D", "AA", "D"}, {"ZOD", "D", "AA", "D"}, "DAD"},
         {{"EEE", "D"}, {"EEE", "D"}, "ZAD"},
         {{}, {}, "ZAD"},
     };
-    for (const Case& testCase : cases) {
+    for (const auto& [drawn, rewritten, startRack] : cases) {
         StartGame({"Ada", "Bo"});
         GiveRack(2, "AEIEAIE");
         GiveRack(1, "CATSDOG");
         game.startRacks[1] = "DAD";
-        for (std::size_t i = 0; i < testCase.drawn.size(); ++i) {
-            GiveScore(static_cast<int>(i % 2) + 1, 0);
-            game.history.Last().newLetters = Text<kRackSize>(testCase.drawn[i]);
+        for (const std::string& letters : drawn) {
+            GiveScore(game.history.movesCount % 2 + 1, 0);
+            game.history.Last().newLetters = std::string_view(letters);
         }
         game.history.redoCount = 3;
         SwapWithBag(5, 'Z');
         EXPECT_EQ(RackOf(1), "CATSZOG");
         EXPECT_EQ(game.history.redoCount, 0);
-        EXPECT_EQ(game.startRacks[1].View(), testCase.startRack);
-        for (std::size_t i = 0; i < testCase.rewritten.size(); ++i) {
-            EXPECT_EQ(game.history.records[static_cast<int>(i) + 1].newLetters.View(), testCase.rewritten[i]);
+        EXPECT_EQ(game.startRacks[1], startRack);
+        for (int n = 1; n <= game.history.movesCount; ++n) {
+            EXPECT_EQ(game.history.records[n].newLetters, rewritten[static_cast<std::size_t>(n) - 1]);
         }
     }
 }

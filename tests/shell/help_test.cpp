@@ -1,7 +1,5 @@
 #include "shell/help.h"
 
-#include <gmock/gmock.h>
-
 #include "data/help_topics.h"
 #include "resources/dialog_templates.h"
 #include "support/temp_folder.h"
@@ -9,8 +7,6 @@
 
 namespace quillet {
 namespace {
-
-using testing::ElementsAre;
 
 using Help = TempFolder;
 

@@ -1,28 +1,18 @@
 // The program's way in, its loop and its way out.
 #include "shell/main_loop.h"
 
-#include <gmock/gmock.h>
-
 #include "base/idle_pump.h"
 #include "data/saved_game.h"
-#include "editors/board_editor.h"
-#include "play/turns.h"
-#include "store/preferences.h"
 #include "support/running_program.h"
-#include "support/world.h"
-#include "view/view_state.h"
 #include "words/dict.h"
 
 namespace quillet {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
 class MainLoop : public RunningProgram {
   protected:
-    static std::vector<std::string> Questions() {
-        std::vector<std::string> texts;
+    static Strings Questions() {
+        Strings texts;
         for (const AskedQuestion& question : headless.questions) texts.push_back(question.text);
         return texts;
     }
@@ -35,29 +25,24 @@ class MainLoop : public RunningProgram {
 };
 
 TEST_F(MainLoop, OffersOnTheWayOutWhatWouldBeLost) {
-    const struct {
-        int moves;
-        bool over;
-        bool listChanged;
-        std::vector<std::string> questions;
-    } cases[] = {{0, false, false, {}},
-                 {1, false, false, {"Save current game?"}},
-                 {1, true, false, {}},
-                 {0, false, true, {"Save changes to \"Words\"?"}},
-                 {1, false, true, {"Save current game?", "Save changes to \"Words\"?"}}};
-    for (const auto& c : cases) {
+    const std::tuple<int, bool, bool, Strings> cases[] = {
+        // moves made, is the game over, was the word list changed; and the questions
+        {0, false, false, {}},
+        {1, false, false, {"Save current game?"}},
+        {1, true, false, {}},
+        {0, false, true, {"Save changes to \"Words\"?"}},
+        {1, false, true, {"Save current game?", "Save changes to \"Words\"?"}}};
+    for (const auto& [moves, over, listChanged, questions] : cases) {
+        hasEnded = false;
         StartGame({"Ann", "Bob"});
-        game.history.movesCount = c.moves;
-        game.gameOver = c.over;
-        mainDict.numAdded = c.listChanged;
+        game.history.movesCount = moves;
+        game.gameOver = over;
+        mainDict.numAdded = listChanged;
         headless.questions.clear();
         headless.answers = {false, false};
-        ChooseMenuItem(9);
-        Run();
-        EXPECT_EQ(Questions(), c.questions);
-        EXPECT_TRUE(hasEnded);
-        EXPECT_FALSE(headlessWindow.exists);
-        hasEnded = false;
+        Choose(9);
+        EXPECT_EQ(Questions(), questions);
+        EXPECT_TRUE(hasEnded && !headlessWindow.exists);
         mainDict.numAdded = 0;
     }
 }
@@ -75,21 +60,19 @@ TEST_F(MainLoop, SavesTheGameOnTheWayOutAndRemembersTheWindowsPlace) {
     EXPECT_EQ(ReadItems("Data/Prefs", {802, 803}), "47|31|");
 }
 
-TEST_F(MainLoop, GreetsAndSaysGoodbye) {
-    StartProgram({.savedGame = "", .zoom = 1});
-    EXPECT_THAT(headlessWindow.sounds, ElementsAre(SoundFile("start.wav")));
-    RequestClose();
-    Run();
-    EXPECT_THAT(headlessWindow.sounds, ElementsAre(SoundFile("start.wav"), SoundFile("quit.wav")));
-    for (bool Preferences::*preference : {&Preferences::playIntroMusic, &Preferences::playByeBye})
-        FlipPreference(preference);
-    hasEnded = false;
-    view = {};
-    headlessWindow.sounds.clear();
-    StartProgram({.savedGame = "", .zoom = 1});
-    RequestClose();
-    Run();
-    EXPECT_THAT(headlessWindow.sounds, IsEmpty());
+TEST_F(MainLoop, GreetsAndSaysGoodbyeUnlessItShallNot) {
+    for (bool wanted : {true, false}) {
+        hasEnded = false;
+        view = {};
+        headlessWindow.sounds.clear();
+        StartProgram({.savedGame = "", .zoom = 1});
+        RequestClose();
+        Run();
+        EXPECT_EQ(headlessWindow.sounds,
+                  wanted ? Strings({SoundFile("start.wav"), SoundFile("quit.wav")}) : Strings());
+        for (auto preference : {&Preferences::playIntroMusic, &Preferences::playByeBye})
+            FlipPreference(preference);
+    }
 }
 
 TEST_F(MainLoop, WithoutATimerThePersonMayTryAgain) {
@@ -106,18 +89,18 @@ TEST_F(MainLoop, OpensTheGameItIsGiven) {
     ASSERT_TRUE(SaveGame((root / "Mine.QLG").string()));
     std::filesystem::copy_file(root / "Mine.QLG", root / "Mine.txt");
     WriteFile("Broken.qlg", "version = 2\r\nnothing = \r\n");
-    const struct {
-        const char* file;
-        bool opens;
-        std::size_t warnings;
-    } cases[] = {
-        {"Mine.QLG", true, 0}, {"Mine.txt", false, 0}, {"Broken.qlg", false, 1}, {"No.qlg", false, 1}};
-    for (const auto& c : cases) {
+    const std::tuple<std::string, bool, std::size_t> cases[] = {
+        // the file, whether it opens, and how many warnings there are
+        {"Mine.QLG", true, 0},
+        {"Mine.txt", false, 0},
+        {"Broken.qlg", false, 1},
+        {"No.qlg", false, 1}};
+    for (const auto& [file, opens, warnings] : cases) {
         view = {};
-        StartProgram({.savedGame = (root / c.file).string(), .zoom = 1});
-        EXPECT_EQ(game.gameStarted, c.opens) << c.file;
-        EXPECT_EQ(TakeMessages().size(), c.warnings) << c.file;
-        EXPECT_GT(mainDict.numwords, 0) << c.file;
+        StartProgram({.savedGame = root / file, .zoom = 1});
+        EXPECT_EQ(game.gameStarted, opens) << file;
+        EXPECT_THAT(TakeMessages(), SizeIs(warnings)) << file;
+        EXPECT_GT(mainDict.numwords, 0) << file;
         Run(2);
     }
 }
@@ -145,48 +128,20 @@ TEST_F(MainLoop, AComputationIsNotDisturbed) {
     EXPECT_FALSE(hasEnded);
 }
 
-TEST_F(MainLoop, TheBoardEditorIsNotClosedWithTheWindow) {
-    Start();
-    OpenBoardEditor();
-    headless.beeps = 0;
-    RequestClose();
-    Run();
-    EXPECT_EQ(headless.beeps, 1);
-    EXPECT_FALSE(hasEnded);
-}
-
 TEST_F(MainLoop, NewColoursAreDrawnWhenTheWindowIsActiveAgain) {
     Start();
-    PostEvent({.kind = Message::Kind::Deactivated});
-    PostEvent({.kind = Message::Kind::ColoursChanged});
-    Run();
     constexpr Colour kNothing = 0x123456;
     const Point corner{view.layout.client.width - 1, view.layout.client.height - 1};
-    WindowCanvas().Fill(Rect::At(corner, {1, 1}), kNothing);
-    PostEvent({.kind = Message::Kind::Activated});
-    Run();
-    EXPECT_NE(WindowCanvas().At(corner), kNothing);
-    WindowCanvas().Fill(Rect::At(corner, {1, 1}), kNothing);
-    PostEvent({.kind = Message::Kind::Deactivated});
-    PostEvent({.kind = Message::Kind::Activated});
-    Run();
-    EXPECT_EQ(WindowCanvas().At(corner), kNothing) << "drawn again without need";
-}
-
-TEST_F(MainLoop, AnUndoneMoveOfAComputerWaitsToBeTold) {
-    StartGame({"Ann", "Pip 3"});
-    FlipPreference(&Preferences::tellComputerToMove);
-    preferences.playSounds = false;
-    TypeText("0");
-    headless.answers = {true};  // to pass
-    Run(3);
-    ASSERT_GE(game.history.movesCount, 2);
-    ASSERT_EQ(game.currentPlayer, 1);
-    ChooseMenuItem(101);
-    Run(3);
-    EXPECT_EQ(game.history.movesCount, 1);
-    EXPECT_TRUE(preferences.tellComputerToMove);
-    EXPECT_EQ(ReadFile("Data/Prefs/1010.str"), "T");
+    for (bool coloursChange : {true, false}) {
+        WindowCanvas().Fill(Rect::At(corner, {1, 1}), kNothing);
+        PostEvent({.kind = Message::Kind::Deactivated});
+        if (coloursChange) PostEvent({.kind = Message::Kind::ColoursChanged});
+        Run();
+        EXPECT_EQ(WindowCanvas().At(corner), kNothing);
+        PostEvent({.kind = Message::Kind::Activated});
+        Run();
+        EXPECT_EQ(WindowCanvas().At(corner) != kNothing, coloursChange);
+    }
 }
 
 }  // namespace

@@ -1,25 +1,16 @@
 // What the menus offer as the game goes on, and what their commands switch.
 #include "shell/menus.h"
 
-#include <gmock/gmock.h>
-
-#include <functional>
-
 #include "base/idle_pump.h"
 #include "data/scenarios.h"
 #include "game/validation.h"
 #include "shell/commands.h"
-#include "store/preferences.h"
 #include "support/running_program.h"
-#include "support/world.h"
-#include "view/view_state.h"
 #include "words/dict.h"
 #include "words/word_list_file.h"
 
 namespace quillet {
 namespace {
-
-using testing::ElementsAre;
 
 class Menus : public RunningProgram {
   protected:
@@ -34,8 +25,8 @@ class Menus : public RunningProgram {
     }
     static std::string TextOf(int command) { return FindMenuItem(command)->text; }
     // The ticked items of the scenarios or word lists.
-    static std::vector<std::string> Ticked(int firstCommand) {
-        std::vector<std::string> names;
+    static Strings Ticked(int firstCommand) {
+        Strings names;
         for (const HeadlessMenuItem& item : headlessWindow.menuItems) {
             if (item.checked && item.command >= firstCommand && item.command / 100 == firstCommand / 100)
                 names.push_back(item.text);
@@ -49,42 +40,25 @@ TEST_F(Menus, OfferWhatCanBeDoneNow) {
     EXPECT_EQ(Offered(), "1 202 307 503 601 1001 ");
     StartGame({"Ann", "Bob"});
     const GameState begun = game;
-    const struct {
-        const char* state;
-        std::function<void()> make;
-        const char* offered;
-    } cases[] = {
+    using Case = std::tuple<const char*, std::function<void()>, const char*>;
+    const Case cases[] = {
         {"begun", [] {}, "1 3 202 307 401 403 406 503 601 1001 "},
         {"a move made", [] { game.history.movesCount = 1; }, "1 3 101 202 307 401 403 406 503 601 1001 "},
         {"a move undone", [] { game.history.redoCount = 1; }, "1 3 102 202 307 401 403 406 503 601 1001 "},
         {"few letters", [] { game.bag.tilesleft = 6; }, "1 3 202 307 403 406 503 601 1001 "},
         {"a computer", [] { game.players[1].isComputer = true; }, "1 3 202 307 503 601 1001 "},
-        {"over",
-         [] {
-             game.gameOver = true;
-             game.history.movesCount = game.history.redoCount = 1;
-         },
-         "1 3 101 202 307 503 601 1001 "},
+        {"over", [] { game.gameOver = true, game.history.redoCount = 1; }, "1 3 202 307 503 601 1001 "},
         {"list changed", [] { mainDict.numDeleted = 1; }, "1 3 202 307 401 403 406 503 504 601 1001 "},
         {"word formed", [] { formedWords.remembered = "CAT"; }, "1 3 202 307 401 403 406 503 512 601 1001 "},
         {"searching", [] { DisableMenus(); }, "307 601 1001 "},
-        {"reading a text",
-         [] {
-             SetTextOperation(true);
-             DisableMenus();
-         },
-         "601 "},
+        {"reading a text", [] { SetTextOperation(true), DisableMenus(); }, "601 "},
         {"editing", [] { game.editorActive = true; }, "104 601 "},
         {"editing with a picture at hand",
-         [] {
-             game.editorActive = true;
-             headlessWindow.clipboard = Image(1, 1);
-         },
-         "104 105 601 "},
+         [] { game.editorActive = true, headlessWindow.clipboard = Image(1, 1); }, "104 105 601 "},
     };
-    for (const auto& c : cases) {
-        c.make();
-        EXPECT_EQ(Offered(), c.offered) << c.state;
+    for (const auto& [state, make, offered] : cases) {
+        make();
+        EXPECT_EQ(Offered(), offered) << state;
         game = begun;
         mainDict.numDeleted = 0;
         formedWords = {};
@@ -96,30 +70,26 @@ TEST_F(Menus, OfferWhatCanBeDoneNow) {
 
 TEST_F(Menus, SwitchAndTickTheOptions) {
     Start();
-    constexpr struct {
-        int command;
-        bool Preferences::*preference;
-        int item;
-        bool tickedWhenOn = true;
-    } kSwitches[] = {
+    using Switch = std::tuple<int, bool Preferences::*, int>;  // a command, what it switches, and its item
+    constexpr Switch kSwitches[] = {
         {303, &Preferences::rackAbove, 1012},           {304, &Preferences::niceLetterMix, 1014},
         {305, &Preferences::showComputerLetters, 1002}, {306, &Preferences::blinkComputerMoves, 1005},
         {307, &Preferences::tellComputerToMove, 1010},  {308, &Preferences::allowHints, 1013},
-        {309, &Preferences::saveStatistics, 1004},      {1001, &Preferences::playSounds, 1007, false},
+        {309, &Preferences::saveStatistics, 1004},      {1001, &Preferences::playSounds, 1007},
         {1002, &Preferences::playIntroMusic, 1015},     {1003, &Preferences::canWeTalk, 1008},
         {1004, &Preferences::playTileClicks, 1016},     {1005, &Preferences::playMixPermute, 1017},
         {1006, &Preferences::playBingoBonus, 1018},     {1007, &Preferences::playEndGame, 1019},
         {1008, &Preferences::playByeBye, 1020},
     };
-    for (const auto& s : kSwitches) {
-        SCOPED_TRACE(s.command);
-        const bool before = preferences.*s.preference;
+    for (const auto& [command, preference, item] : kSwitches) {
+        SCOPED_TRACE(command);
+        const bool before = preferences.*preference;
+        const bool tickedWhenOn = command != 1001;  // "All Off"
         for (bool expected : {!before, before}) {
-            ChooseMenuItem(s.command);
-            Run();
-            EXPECT_EQ(preferences.*s.preference, expected);
-            EXPECT_EQ(ReadFile("Data/Prefs/" + std::to_string(s.item) + ".str"), expected ? "T" : "F");
-            EXPECT_EQ(FindMenuItem(s.command)->checked, expected == s.tickedWhenOn);
+            Choose(command);
+            EXPECT_EQ(preferences.*preference, expected);
+            EXPECT_EQ(ReadItems("Data/Prefs", {item}), expected ? "T|" : "F|");
+            EXPECT_EQ(FindMenuItem(command)->checked, expected == tickedWhenOn);
         }
     }
 }
@@ -156,33 +126,27 @@ TEST_F(Menus, StartWithTheFirstNamesWhenThePreferredOnesAreGone) {
 TEST_F(Menus, ListTheWordListThatAScenarioAsksFor) {
     Start();
     std::filesystem::copy_file(root / "Word Lists/Common.qld", root / "Word Lists/Extra.qld");
-    scenario.requestedWordList = "extra";
-    FollowScenarioWordList();
-    RefreshMenus();
-    EXPECT_THAT(Ticked(514), ElementsAre("Extra"));
+    for (const auto& [wish, ticked] : {std::pair{"extra", "Extra"}, {"", "Words"}}) {
+        scenario.requestedWordList = wish;
+        FollowScenarioWordList();
+        RefreshMenus();
+        EXPECT_THAT(Ticked(514), ElementsAre(ticked));
+    }
     EXPECT_EQ(ReadFile("Data/Prefs/3001.str"), "Words");
-    scenario.requestedWordList.Clear();
-    FollowScenarioWordList();
-    RefreshMenus();
-    EXPECT_THAT(Ticked(514), ElementsAre("Words"));
 }
 
 TEST_F(Menus, ChoosingWhatIsTickedDoesNothing) {
     StartGame({"Ann", "Bob"});
     game.history.movesCount = 1;
+    headlessWindow.dialogsShown.clear();
     for (int command : {205, 515}) {
         ASSERT_TRUE(FindMenuItem(command)->checked);
-        ChooseMenuItem(command);
+        Choose(command);
     }
-    headlessWindow.dialogsShown.clear();
-    Run();
-    EXPECT_TRUE(headless.questions.empty());
-    EXPECT_TRUE(headlessWindow.dialogsShown.empty());
+    EXPECT_TRUE(headless.questions.empty() && headlessWindow.dialogsShown.empty());
     EXPECT_EQ(game.history.movesCount, 1);
-    ChooseMenuItem(206);
-    Run();
-    ASSERT_EQ(headless.questions.size(), 1U);
-    EXPECT_EQ(headless.questions[0].text, "Cancel the current game?");
+    Choose(206);
+    EXPECT_EQ(headless.questions.at(0).text, "Cancel the current game?");
     EXPECT_FALSE(headless.questions[0].yesIsDefault);
     EXPECT_THAT(Ticked(205), ElementsAre("Classic"));
 }

@@ -1,16 +1,12 @@
 // Somebody who clicks, types, drags and chooses at random, while the game's tiles and scores must go on
 // adding up. QUILLET_MONKEY_STEPS sets how much of it (a long run: 300000).
-#include <gtest/gtest.h>
 
 #include <cstdlib>
 #include <random>
 
 #include "game/consistency.h"
-#include "game/game_state.h"
 #include "resources/menus.h"
-#include "store/preferences.h"
 #include "support/running_program.h"
-#include "view/view_state.h"
 
 namespace quillet {
 namespace {
@@ -19,6 +15,9 @@ class Monkey : public RunningProgram {
   protected:
     int Below(int count) { return static_cast<int>(random() % static_cast<unsigned>(count)); }
     bool OneIn(int count) { return Below(count) == 0; }
+    const auto& OneOf(const auto& list) {
+        return list[static_cast<std::size_t>(Below(static_cast<int>(std::size(list))))];
+    }
 
     Point SomePoint() {
         const Layout& at = view.layout;
@@ -30,7 +29,7 @@ class Monkey : public RunningProgram {
             MiddleOf(at.BagViewTrigger()), {at.playerRow[1].right - 5, at.playerRow[1 + Below(4)].top + 5},
             {178 + Below(20), Below(400)}};
         if (OneIn(4)) return {Below(700) - 20, Below(500) - 20};
-        return likely[static_cast<std::size_t>(Below(std::size(likely)))];
+        return OneOf(likely);
     }
     int SomeHeld() { return OneIn(3) ? Below(4) : 0; }
 
@@ -48,17 +47,14 @@ class Monkey : public RunningProgram {
 
     void UseKeys() {
         static constexpr std::string_view kKeys = "ABCDEFGHIJKLMNOPQRSTUVWXYZaeinrst..  0089\b\b\x1b\xE9";
-        for (int i = Below(6); i >= 0; --i) {
-            TypeText(kKeys.substr(static_cast<std::size_t>(Below(static_cast<int>(kKeys.size()))), 1));
-        }
+        for (int i = Below(6); i >= 0; --i) TypeText({&OneOf(kKeys), 1});
         if (OneIn(3)) PressKey(static_cast<Key>(1 + Below(5)));
     }
 
     void UseMenus() {
-        const HeadlessMenuItem& item = headlessWindow.menuItems[static_cast<std::size_t>(
-            Below(static_cast<int>(headlessWindow.menuItems.size())))];
         constexpr int kQuit = 9;
-        if (item.command != kQuit && item.command != 0) ChooseMenuItem(item.command);
+        const int command = OneOf(headlessWindow.menuItems).command;
+        if (command != kQuit && command != 0) ChooseMenuItem(command);
     }
 
     void UseWindowControls() {
@@ -74,30 +70,18 @@ class Monkey : public RunningProgram {
         static constexpr const char* kTexts[] = {
             "", "7", "Ann", "a name that is much too long for anything", "CAT", "x\xE9z", "99"};
         for (int i = Below(6); i > 0 && !dialog.result; --i) {
-            auto control = dialog.controls.begin();
-            std::advance(control, Below(static_cast<int>(dialog.controls.size())));
-            const int id = control->first;
-            switch (control->second.kind) {
-                case ControlKind::Edit:
-                case ControlKind::TextBox:
-                    TypeText(dialog, id, kTexts[Below(std::size(kTexts))]);
-                    break;
-                case ControlKind::DropDown:
-                case ControlKind::List:
-                    if (control->second.lineCount > 0)
-                        ChooseLine(
-                            dialog, id,
-                            Below(static_cast<int>(std::min<std::size_t>(control->second.lineCount, 1000))));
-                    break;
-                case ControlKind::Arrows:
-                    StepArrows(dialog, id, OneIn(2));
-                    break;
-                case ControlKind::Label:
-                case ControlKind::Picture:
-                    break;
-                default:
-                    PressControl(dialog, id);
-                    break;
+            const auto& [id, control] =
+                *std::next(dialog.controls.begin(), Below(static_cast<int>(dialog.controls.size())));
+            const auto lines = static_cast<int>(std::min<std::size_t>(control.lineCount, 1000));
+            using enum ControlKind;
+            if (control.kind == Edit || control.kind == TextBox) {
+                TypeText(dialog, id, OneOf(kTexts));
+            } else if (control.kind == DropDown || control.kind == List) {
+                if (lines > 0) ChooseLine(dialog, id, Below(lines));
+            } else if (control.kind == Arrows) {
+                StepArrows(dialog, id, OneIn(2));
+            } else if (control.kind != Label && control.kind != ControlKind::Picture) {
+                PressControl(dialog, id);
             }
         }
         if (!dialog.result && OneIn(2)) PressControl(dialog, 1);
@@ -110,7 +94,7 @@ class Monkey : public RunningProgram {
         headlessWindow.dialogScripts.assign(4, [this](Dialog& dialog) { PlayDialog(dialog); });
         headlessWindow.fileAnswers.clear();
         const char* files[] = {"game.qlg", "words.txt", "none.qlg", "game2.qlg"};
-        if (OneIn(2)) headlessWindow.fileAnswers.push_back((root / files[Below(4)]).string());
+        if (OneIn(2)) headlessWindow.fileAnswers.push_back((root / OneOf(files)).string());
         headless.answers.assign({OneIn(2), OneIn(2), OneIn(2)});
         headless.messages.clear();
         headless.questions.clear();
@@ -121,21 +105,11 @@ class Monkey : public RunningProgram {
 
     void Step() {
         Prepare();
-        switch (Below(8)) {
-            case 0:
-                UseMenus();
-                break;
-            case 1:
-                UseWindowControls();
-                break;
-            case 2:
-            case 3:
-                UseKeys();
-                break;
-            default:
-                UseMouse();
-                break;
-        }
+        using Deed = void (Monkey::*)();
+        static constexpr Deed kDeeds[] = {&Monkey::UseMenus, &Monkey::UseWindowControls, &Monkey::UseKeys,
+                                          &Monkey::UseKeys,  &Monkey::UseMouse,          &Monkey::UseMouse,
+                                          &Monkey::UseMouse, &Monkey::UseMouse};
+        (this->*OneOf(kDeeds))();
         Run(1 + Below(2));
         if (OneIn(50)) headless.tick += static_cast<std::uint32_t>(Below(100'000));
     }

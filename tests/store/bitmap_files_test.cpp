@@ -1,16 +1,9 @@
 #include "store/bitmap_files.h"
 
-#include <gmock/gmock.h>
-
-#include <random>
-
 #include "support/temp_folder.h"
 
 namespace quillet {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 std::string Little(std::uint32_t value, int size) {
     std::string bytes;
@@ -99,7 +92,7 @@ TEST_F(BitmapFiles, WhatCannotBeReadIsNamed) {
     const auto patched = [&](std::size_t at, std::uint32_t value) {
         return std::string(sound).replace(at, 4, Little(value, 4));
     };
-    const std::pair<const char*, std::vector<std::string>> table[] = {
+    const std::pair<const char*, Strings> table[] = {
         {"Could not read bitmap header: a.bmp",
          {"", "BM and so on", sound.substr(0, 14), sound.substr(0, 20), "XY" + sound.substr(2),
           // Pixels inside either header or behind the file; unknown headers, depths and compressions.
@@ -117,15 +110,6 @@ TEST_F(BitmapFiles, WhatCannotBeReadIsNamed) {
             EXPECT_THAT(TakeMessages(), ElementsAre(message));
         }
     }
-}
-
-TEST_F(BitmapFiles, OnlyAnInterfacePictureMustExist) {
-    EXPECT_FALSE(LoadBitmapFile("Opponents\\Bo\\9001.bmp"));
-    EXPECT_THAT(TakeMessages(), IsEmpty());
-    EXPECT_FALSE(LoadGraphicsBitmap("Tiles.bmp"));
-    EXPECT_THAT(TakeMessages(), ElementsAre("Could not open bitmap file: Data\\Graphics\\Tiles.bmp"));
-    WriteFile("Data/Graphics/Tiles.bmp", Bmp{1, 1, 24, std::string("\0\0\xFF\0", 4)}.File());
-    EXPECT_EQ(LoadGraphicsBitmap("tiles.bmp"), Image(1, 1, kRed));
 }
 
 TEST_F(BitmapFiles, SavedFileIsRowsFromTheBottomAndReadsBack) {
@@ -165,34 +149,10 @@ TEST_F(BitmapFiles, APictureComesWithATwinOfTwiceItsSize) {
     }
     ASSERT_TRUE(SavePicture(Image(1, 1), "c.bmp"));
     EXPECT_EQ(ReadFile("c@2x.bmp"), "<none>") << "the twin of another picture";
-    EXPECT_FALSE(LoadPicture("d.bmp"));
+    EXPECT_FALSE(LoadPicture("d.bmp")) << "which need not be";
     EXPECT_THAT(TakeMessages(), IsEmpty());
-    EXPECT_FALSE(LoadGraphicsPicture("d.bmp"));
+    EXPECT_FALSE(LoadGraphicsPicture("d.bmp")) << "which must be";
     EXPECT_THAT(TakeMessages(), ElementsAre("Could not open bitmap file: Data\\Graphics\\d.bmp"));
-}
-
-// Whatever stands in the file: a picture of the size that it says, or one warning.
-TEST_F(BitmapFiles, RandomDamageIsSurvived) {
-    std::mt19937 random(7);
-    const auto junk = [&](std::size_t size) {
-        std::string bytes;
-        while (bytes.size() < size) bytes += static_cast<char>(random() % 3 == 0 ? random() % 4 : random());
-        return bytes;
-    };
-    for (int round = 0; round < 800; ++round) {
-        constexpr std::pair<std::uint32_t, std::uint32_t> kFormats[] = {
-            {1, 0}, {4, 0}, {4, 2}, {8, 0}, {8, 1}, {16, 0}, {16, 3}, {24, 0}, {32, 3}};
-        const auto [bits, compression] = kFormats[random() % std::size(kFormats)];
-        const int size = 1 + static_cast<int>(random() % 12);
-        std::string file = Bmp{size, 6 - size, bits, junk(random() % 600), junk(40), compression, 10}.File();
-        for (auto damage = random() % 4; damage > 0; --damage) {
-            file[random() % std::min<std::size_t>(file.size(), 60)] = junk(1)[0];
-        }
-        file.resize(file.size() - random() % 3 * (random() % file.size()) / 2);
-        const std::optional<Image> image = Load(file);
-        EXPECT_EQ(TakeMessages().size(), image ? 0U : 1U);
-        EXPECT_TRUE(!image || static_cast<int>(image->pixels.size()) == image->width * image->height);
-    }
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 #include "store/files.h"
 
-#include <gmock/gmock.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -11,20 +10,23 @@
 namespace quillet {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
 using testing::Optional;
 
-class Files : public TempFolder {
-  protected:
-    std::string ReadCharacters(const std::string& path) {
-        FileRef file = OpenForReading(path);
-        std::string text;
-        for (char character = 0; ReadChar(*file, character);) text += character;
-        CloseFile(std::move(file));
-        return text;
-    }
-};
+using Files = TempFolder;
+
+std::string ReadCharacters(const std::string& path) {
+    FileRef file = OpenForReading(path);
+    std::string text;
+    for (char character = 0; ReadChar(*file, character);) text += character;
+    CloseFile(std::move(file));
+    return text;
+}
+
+bool WriteWhole(const std::string& path, std::string_view text) {
+    FileRef file = CreateForWriting(path);
+    WriteText(*file, text);
+    return CloseFile(std::move(file));
+}
 
 TEST_F(Files, ReadCharFoldsCrLfAndNothingElse) {
     WriteFile("text", "a\r\nb\nc\r\r\nd\re\r\n\n\xFF\x1A");
@@ -32,9 +34,7 @@ TEST_F(Files, ReadCharFoldsCrLfAndNothingElse) {
 }
 
 TEST_F(Files, WriteTextEndsLinesWithCrLfAndStopsAtNul) {
-    FileRef file = CreateForWriting("text");
-    WriteText(*file, std::string_view("one\rtwo\r\0three", 14));
-    EXPECT_TRUE(CloseFile(std::move(file)));
+    EXPECT_TRUE(WriteWhole("text", std::string_view("one\rtwo\r\0three", 14)));
     EXPECT_EQ(ReadFile("text"), "one\r\ntwo\r\n");
 }
 
@@ -68,9 +68,7 @@ TEST_F(Files, WritingKeepsPermissionsAndFollowsLinks) {
     WriteFile("real", "old");
     std::filesystem::permissions(root / "real", std::filesystem::perms(0640));
     std::filesystem::create_symlink("real", root / "link");
-    FileRef file = CreateForWriting("link");
-    WriteText(*file, "new");
-    CloseFile(std::move(file));
+    WriteWhole("link", "new");
     EXPECT_EQ(ReadFile("real"), "new");
     EXPECT_TRUE(std::filesystem::is_symlink(root / "link"));
     EXPECT_EQ(std::filesystem::status(root / "real").permissions(), std::filesystem::perms(0640));
@@ -103,9 +101,7 @@ TEST_F(Files, NamesAreFoundWithoutRegardToCase) {
     EXPECT_EQ(ReadCharacters("WORD LISTS\\words.QLD"), "words");
     EXPECT_EQ(ReadCharacters("WORD.TXT"), "upper") << "a name found as written comes first";
     EXPECT_EQ(ReadCharacters("z\xFCrich\\X"), "umlaut") << "Latin-1 in the program";
-    FileRef file = CreateForWriting("WORD LISTS\\WORDS.qld");
-    WriteText(*file, "again");
-    CloseFile(std::move(file));
+    WriteWhole("WORD LISTS\\WORDS.qld", "again");
     EXPECT_EQ(ReadFile("Word Lists/Words.qld"), "again");
     EXPECT_EQ(CountEntries("Word Lists"), 1U);
     EXPECT_TRUE(FolderExists("word lists") && !FileExists("word lists"));
@@ -146,14 +142,12 @@ TEST_F(Files, EleventhOpenFileIsUsableButNotTracked) {
 }
 
 TEST_F(Files, ListsAreSortedAndLeaveOutWhatIsNotForThePlayer) {
-    for (const char* name :
-         {"Zebra", "apple", "Apple pie", "Locked", ".hidden", "\xC5\x81\xC3\xB3", "d.qld"}) {
-        MakeFolder(std::string("Mixed/") + name);
-    }
+    for (const std::string name :
+         {"Zebra", "apple", "Apple pie", "Locked", ".hidden", "\xC5\x81\xC3\xB3", "d.qld"})
+        MakeFolder("Mixed/" + name);
     std::filesystem::permissions(root / "Mixed/Locked", std::filesystem::perms(0555));
-    for (const char* name : {"Words.qld", "words 2.QLD", "Large.qld", ".qld", "notes.txt", "qld"}) {
-        WriteFile(std::string("Mixed/") + name, "");
-    }
+    for (const std::string name : {"Words.qld", "words 2.QLD", "Large.qld", ".qld", "notes.txt", "qld"})
+        WriteFile("Mixed/" + name, "");
     FileRef unfinished = CreateForWriting("Mixed\\New.qld");
     EXPECT_THAT(ListSubfolders("mixed"), Optional(ElementsAre("apple", "Apple pie", "d.qld", "Zebra")));
     EXPECT_THAT(ListFiles("Mixed", ".qld"), ElementsAre("", "Large", "Words", "words 2"));

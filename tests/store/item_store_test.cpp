@@ -1,7 +1,5 @@
 #include "store/item_store.h"
 
-#include <gmock/gmock.h>
-
 #include <cerrno>
 
 #include "base/messages.h"
@@ -9,9 +7,6 @@
 
 namespace quillet {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 class ItemStores : public TempFolder {
   protected:

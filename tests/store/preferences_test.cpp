@@ -1,23 +1,12 @@
 #include "store/preferences.h"
 
-#include <gmock/gmock.h>
-
-#include "base/messages.h"
-#include "support/temp_folder.h"
+#include "support/world.h"
 
 namespace quillet {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
-class PreferenceItems : public TempFolder {
+class PreferenceItems : public World {
   protected:
-    PreferenceItems() {
-        preferences = {};
-        ClosePrefs();
-        MakeFolder("Data/Prefs");
-    }
     void SetItem(int id, const std::string& value) {
         WriteFile("Data/Prefs/" + std::to_string(id) + ".str", value);
     }
@@ -63,19 +52,9 @@ TEST_F(PreferenceItems, OnlyANewerVersionIsWorthAWarning) {
             OpenPrefs();
             ClosePrefs();
         }
-        EXPECT_EQ(TakeMessages(), std::vector<std::string>(warnings, "Unexpected prefs version!")) << version;
+        EXPECT_EQ(TakeMessages(), Strings(warnings, "Unexpected prefs version!")) << version;
         EXPECT_EQ(Items({kVersionItem}), "0|");
     }
-}
-
-TEST_F(PreferenceItems, MissingItemOrFolderEndsTheProgram) {
-    LoadPreferences();
-    Remove("Data/Prefs/1013.str");
-    EXPECT_THROW(LoadPreferences(), ProgramEnd);
-    EXPECT_THAT(TakeMessages(), ElementsAre("Could not read prefs file: Data\\Prefs\\1013.str"));
-    std::filesystem::remove_all(root / "Data");
-    EXPECT_THROW(LoadPreferences(), ProgramEnd);
-    EXPECT_THAT(TakeMessages(), ElementsAre("Could not create prefs file: Data\\Prefs\\12345.str  Error: 2"));
 }
 
 TEST_F(PreferenceItems, FirstStartThatIsStoppedHalfWayIsMadeUpFor) {

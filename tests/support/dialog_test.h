@@ -2,9 +2,6 @@
 // come.
 #pragma once
 
-#include <functional>
-#include <string>
-
 #include "resources/dialog_templates.h"
 #include "support/window.h"
 #include "support/world.h"

@@ -3,21 +3,14 @@
 // Both fill game, mainDict and bonusDict, because scoring looks there.
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <array>
 #include <iterator>
-#include <optional>
 #include <random>
 #include <set>
-#include <string>
-#include <string_view>
-#include <vector>
 
 #include "computer/candidate_list.h"
 #include "computer/search.h"
 #include "game/game_state.h"
+#include "support/testing.h"
 #include "words/dict.h"
 
 namespace quillet {
@@ -82,8 +75,8 @@ inline std::string Describe(const Candidate& candidate) {
     return candidate.bonusCount == 0 ? text : text + " + " + std::to_string(candidate.bonusCount);
 }
 
-inline std::vector<std::string> Describe(const CandidateList& list) {
-    std::vector<std::string> texts;
+inline Strings Describe(const CandidateList& list) {
+    Strings texts;
     for (const Candidate& candidate : list.List()) texts.push_back(Describe(candidate));
     return texts;
 }

@@ -1,15 +1,12 @@
 #include "support/random_games.h"
 
-#include <algorithm>
 #include <iterator>
 #include <sstream>
-#include <utility>
 
 #include "computer/opponents.h"
 #include "game/bag.h"
 #include "play/history.h"
 #include "play/turns.h"
-#include "store/preferences.h"
 
 namespace quillet {
 namespace {
@@ -31,7 +28,7 @@ RandomGame::RandomGame(std::uint32_t seed) : random(seed) {
     SetWords({std::istream_iterator<std::string>(words), {}});
     preferences.timerEnabled = seed % 3 == 0;
     preferences.timeLimit = 2;
-    const std::vector<std::string> names{"Ada 9", "Bo", "Cy \"the\" 4", "Ren\xE9 7"};
+    const Strings names{"Ada 9", "Bo", "Cy \"the\" 4", "Ren\xE9 7"};
     SeedRandom(seed);
     StartGame({names.begin(), names.begin() + Choose(1, 4)});
 }

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <random>
-#include <string>
 
 #include "support/world.h"
 

@@ -1,4 +1,3 @@
-#include <string>
 
 #include "base/presentation.h"
 #include "support/recording_presentation.h"

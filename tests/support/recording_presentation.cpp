@@ -1,6 +1,5 @@
 #include "support/recording_presentation.h"
 
-#include <algorithm>
 #include <sstream>
 
 #include "base/presentation.h"

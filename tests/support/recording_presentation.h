@@ -4,15 +4,14 @@
 
 #include <deque>
 #include <map>
-#include <optional>
 #include <sstream>
-#include <string>
-#include <vector>
+
+#include "support/testing.h"
 
 namespace quillet {
 
 struct RecordedPresentation {
-    std::vector<std::string> calls;                // "DrawBoardTile 8 8 A", in order
+    Strings calls;                                 // "DrawBoardTile 8 8 A", in order
     std::deque<std::optional<char>> blankLetters;  // answers to AskBlankLetter; cancelled when it runs out
     bool playersChosen = false;                    // the answer of ChoosePlayers
     bool pointerOverStatistics = false;

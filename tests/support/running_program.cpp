@@ -1,15 +1,8 @@
 #include "support/running_program.h"
 
-#include <algorithm>
-#include <utility>
-#include <vector>
-
 #include "base/idle_pump.h"
-#include "game/game_state.h"
 #include "game/validation.h"
 #include "shell/main_loop.h"
-#include "store/preferences.h"
-#include "view/view_state.h"
 #include "words/word_list_file.h"
 
 namespace quillet {
@@ -34,9 +27,8 @@ RunningProgram::RunningProgram() {
     }
     for (const char* folder : {"Data/Graphics", "Data/Sounds"})
         fs::create_directory_symlink(kAssets / folder, root / folder);
-    for (const char* name : {"Words", "Common"}) {
-        fs::copy_file(kAssets / "Word Lists" / "Common.qld",
-                      root / "Word Lists" / (std::string(name) + ".qld"));
+    for (const char* list : {"Word Lists/Words.qld", "Word Lists/Common.qld"}) {
+        fs::copy_file(kAssets / "Word Lists/Common.qld", root / list);
     }
     for (const char* folder :
          {"Scenarios/Classic", "Scenarios/Quick Nine", "Opponents/Pip", "Opponents/Strix"}) {
@@ -64,17 +56,33 @@ void RunningProgram::StartGame(std::initializer_list<std::string_view> names) {
     RememberScenario("Classic");
     WritePlayerNames(std::vector<PlayerName>(names.begin(), names.end()));
     Start();
-    ChooseMenuItem(1);
-    Run();
+    Choose(1);
     // Whoever begins by lot: the seats turn until it is the first player.
-    while (game.currentPlayer != 1 && !game.Current().isComputer) {
-        ChooseMenuItem(1);
-        Run();
-    }
+    while (game.currentPlayer != 1 && !game.Current().isComputer) Choose(1);
 }
 
 void RunningProgram::Run(int times) {
     for (int i = 0; i < times && !hasEnded; ++i) hasEnded = !RunOnce();
+}
+
+void RunningProgram::ClickAt(Point at, int held, bool rightButton) {
+    Click(at, held, rightButton);
+    Run();
+}
+
+void RunningProgram::DragTo(Point from, Point to, int held) {
+    Drag(from, to, held);
+    Run();
+}
+
+void RunningProgram::Type(std::string_view characters) {
+    TypeText(characters);
+    Run();
+}
+
+void RunningProgram::Choose(int command) {
+    ChooseMenuItem(command);
+    Run();
 }
 
 void Press(Point at, int held, bool rightButton) {

@@ -1,16 +1,16 @@
-// The whole program on the headless desktop, as a person would use it.
+// The whole program on the headless desktop, as a person would use it. The window's state and the verbs that
+// set up a game come with it.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <initializer_list>
-#include <optional>
 #include <string>
 #include <string_view>
 
 #include "platform/headless/headless_window.h"
 #include "platform/window.h"
 #include "support/temp_folder.h"
+#include "support/world.h"
+#include "view/view_state.h"
 
 namespace quillet {
 
@@ -29,6 +29,12 @@ class RunningProgram : public TempFolder {
 
     // Lets the program handle everything that waits and then sleep, so many times.
     void Run(int times = 1);
+
+    // The person's hand, and what the program makes of it at once.
+    void ClickAt(Point at, int held = 0, bool rightButton = false);
+    void DragTo(Point from, Point to, int held = 0);
+    void Type(std::string_view characters);
+    void Choose(int command);
 
     bool hasEnded = false;
 };

@@ -3,17 +3,15 @@
 // Paths given to its verbs are the file system's, relative to the folder.
 #pragma once
 
-#include <gtest/gtest.h>
 #include <stdlib.h>
 
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <string>
-#include <vector>
 
 #include "platform/headless/headless.h"
 #include "store/files.h"
+#include "support/testing.h"
 
 namespace quillet {
 
@@ -58,6 +56,12 @@ class TempFolder : public testing::Test {
         return text;
     }
 
+    // A folder as it is shipped.
+    void CopyAssets(const std::string& folder) {
+        std::filesystem::copy(std::filesystem::path(QUILLET_ASSETS) / folder, root / folder,
+                              std::filesystem::copy_options::recursive);
+    }
+
     void Remove(const std::string& path) { std::filesystem::remove(root / path); }
 
     // Files and folders, hidden ones too.
@@ -66,8 +70,8 @@ class TempFolder : public testing::Test {
     }
 
     // What was shown since the last call.
-    static std::vector<std::string> TakeMessages() {
-        std::vector<std::string> texts;
+    static Strings TakeMessages() {
+        Strings texts;
         for (const ShownMessage& message : headless.messages) texts.push_back(message.text);
         headless.messages.clear();
         return texts;

@@ -2,8 +2,10 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "platform/headless/headless_window.h"
+#include "resources/dialog_templates.h"
 
 namespace quillet {
 
@@ -31,6 +33,16 @@ inline std::string EditText(Dialog& dialog, int control) {
     if (edit.selectCount == 0) return text;
     text.insert(edit.selectFrom + edit.selectCount, "]");
     return text.insert(edit.selectFrom, "[");
+}
+
+// Types over what an edit holds; presses OK.
+inline void Retype(Dialog& dialog, int control, std::string_view text) {
+    SelectText(dialog, control);
+    TypeText(dialog, control, text);
+}
+inline void Enter(Dialog& dialog, int control, std::string_view text) {
+    Retype(dialog, control, text);
+    PressControl(dialog, kOkId);
 }
 
 }  // namespace quillet

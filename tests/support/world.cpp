@@ -1,7 +1,5 @@
 #include "support/world.h"
 
-#include <algorithm>
-
 #include "base/idle_pump.h"
 #include "computer/move_choice.h"
 #include "computer/opponents.h"
@@ -66,13 +64,13 @@ void World::MakeOpponent(const std::string& name, const std::string& lexicon) {
     WriteFile("Opponents/" + name + "/300.str", lexicon);
 }
 
-void SetWords(const std::vector<std::string>& words) {
+void SetWords(const Strings& words) {
     mainDict = {};
     MakeStore(mainDict, 0);
     for (const std::string& word : words) AddWord(mainDict, word);
 }
 
-void SetBonusWords(const std::vector<std::string>& words, int value) {
+void SetBonusWords(const Strings& words, int value) {
     bonusWords = {};
     std::ranges::transform(words, bonusWords.begin(), [](const std::string& word) { return Word(word); });
     BuildBonusDict(bonusWords);
@@ -80,7 +78,7 @@ void SetBonusWords(const std::vector<std::string>& words, int value) {
     game.settings.bonusWordValue = static_cast<std::int16_t>(value);
 }
 
-void SetPlayers(const std::vector<std::string>& names) {
+void SetPlayers(const Strings& names) {
     game.numPlayers = static_cast<std::uint16_t>(names.size());
     game.currentPlayer = 1;
     for (int p = 1; p <= game.numPlayers; ++p) {
@@ -91,7 +89,7 @@ void SetPlayers(const std::vector<std::string>& names) {
     LoadOpponentData();
 }
 
-void StartGame(const std::vector<std::string>& names) {
+void StartGame(const Strings& names) {
     SetPlayers(names);
     BeginGame(false);
     game.currentPlayer = 1;
@@ -153,15 +151,15 @@ std::string RackOf(int player) {
     return codes;
 }
 
-std::vector<std::string> StatusLines() {
-    std::vector<std::string> lines;
+Strings StatusLines() {
+    Strings lines;
     for (const StatusLine& line : game.statusLines) lines.emplace_back(line.View());
     while (!lines.empty() && lines.back().empty()) lines.pop_back();
     return lines;
 }
 
-std::vector<std::string> Calls(const std::string& beginning) {
-    std::vector<std::string> calls;
+Strings Calls(const std::string& beginning) {
+    Strings calls;
     for (const std::string& call : recorded.calls) {
         if (call.starts_with(beginning)) calls.push_back(call);
     }

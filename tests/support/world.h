@@ -1,4 +1,5 @@
-// A small world for tests of the rules: a line or two make a game whose tiles add up.
+// A small world for tests of the rules: a line or two make a game whose tiles add up. What a test of the
+// rules speaks of comes with it: the game, the preferences, messages and files.
 //
 // Racks and boards are literal text. In a rack "?" is a blank. A piece of board is "CAT" or, with more rows,
 // "CAT/.O."; there "." leaves a square as it is, and a lower-case letter is a blank that stands for it.
@@ -8,7 +9,9 @@
 #include <string_view>
 #include <vector>
 
+#include "base/messages.h"
 #include "game/game_state.h"
+#include "store/preferences.h"
 #include "support/recording_presentation.h"
 #include "support/temp_folder.h"
 
@@ -23,14 +26,14 @@ class World : public TempFolder {
     void MakeOpponent(const std::string& name, const std::string& lexicon = "");
 };
 
-void SetWords(const std::vector<std::string>& words);
-void SetBonusWords(const std::vector<std::string>& words, int value);
+void SetWords(const Strings& words);
+void SetBonusWords(const Strings& words, int value);
 
 // These players, with their kinds and opponents; racks empty, player 1 to move.
-void SetPlayers(const std::vector<std::string>& names);
+void SetPlayers(const Strings& names);
 
 // A new game of these players in which player 1 begins. What was recorded so far is forgotten.
-void StartGame(const std::vector<std::string>& names);
+void StartGame(const Strings& names);
 
 void GiveRack(int player, std::string_view codes);  // in exchange with the bag
 void GiveScore(int player, int score);              // by an earlier move
@@ -44,9 +47,9 @@ void SetSquare(int row, int col, char kind);
 void PutTiles(int row, int col, std::string_view tiles);
 void FreezeTiles(int row, int col, std::string_view tiles);
 
-std::string RackOf(int player);                                // in position order, "?" for a blank
-std::vector<std::string> StatusLines();                        // up to the last that shows something
-std::vector<std::string> Calls(const std::string& beginning);  // the recorded calls that begin so
-void ExpectConsistent();                                       // or the test fails with what does not fit
+std::string RackOf(int player);               // in position order, "?" for a blank
+Strings StatusLines();                        // up to the last that shows something
+Strings Calls(const std::string& beginning);  // the recorded calls that begin so
+void ExpectConsistent();                      // or the test fails with what does not fit
 
 }  // namespace quillet

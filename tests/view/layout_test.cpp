@@ -1,8 +1,5 @@
 #include "view/layout.h"
-
-#include <gtest/gtest.h>
-
-#include <vector>
+#include "support/testing.h"
 
 namespace quillet {
 namespace {
@@ -17,14 +14,8 @@ constexpr PictureSizes kSizes{.info = {215, 150},
                               .done = {60, 36},
                               .mix = {60, 36}};
 
-struct Arrangement {
-    bool big;
-    bool above;
-};
-constexpr Arrangement kArrangements[] = {{true, true}, {true, false}, {false, true}, {false, false}};
-
 TEST(Layout, NothingOverlapsOrLeavesTheWindow) {
-    for (const auto& [big, above] : kArrangements) {
+    for (const auto& [big, above] : {std::pair{true, true}, {true, false}, {false, true}, {false, false}}) {
         SCOPED_TRACE(std::to_string(big) + std::to_string(above));
         const Layout layout = ComputeLayout(big, above, kSizes);
         const std::vector<Rect> panels{layout.boardFrame,  layout.rackRect,       layout.infoPanel,
@@ -42,24 +33,12 @@ TEST(Layout, NothingOverlapsOrLeavesTheWindow) {
     }
 }
 
-TEST(Layout, BoardStandsFiveUnitsFromItsEdge) {
-    EXPECT_EQ(ComputeLayout(true, true, kSizes).boardFrame.bottom, kBigBoard.client.height - 5);
-    EXPECT_EQ(ComputeLayout(false, true, kSizes).boardFrame.bottom, kSmallBoard.client.height - 5);
-    EXPECT_EQ(ComputeLayout(true, false, kSizes).boardFrame.top, 5);
-}
-
-TEST(Layout, RackOfTheSmallBoardIsSmaller) {
-    EXPECT_EQ(ComputeLayout(false, true, kSizes).rackRect.Extent(), (Size{204, 33}));
-}
-
 TEST(Layout, PointsFindTheSquareThatWasDrawnThere) {
     game = FreshGameState();
     const Layout layout = ComputeLayout(true, false, kSizes);
     for (int row = 1; row <= kBoardSize; ++row) {
-        const auto at = SquareAt(layout, layout.SquareRect(row, 16 - row).Corner());
-        ASSERT_TRUE(at.has_value());
-        EXPECT_EQ(at->row, row);
-        EXPECT_EQ(at->col, 16 - row);
+        const BoardPosition square{static_cast<std::int16_t>(row), static_cast<std::int16_t>(16 - row)};
+        EXPECT_EQ(SquareAt(layout, layout.SquareRect(row, 16 - row).Corner()), square);
     }
     EXPECT_FALSE(SquareAt(layout, {layout.boardFrame.left - 1, layout.boardFrame.top + 5}));
     EXPECT_EQ(RackSlotAt(layout, layout.RackSlotRect(3).Corner()), 3);

@@ -1,23 +1,14 @@
 // What the window shows, read back from its pixels and texts.
 #include "view/render.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <functional>
-#include <utility>
-
 #include "base/presentation.h"
 #include "computer/opponents.h"
 #include "shell/main_loop.h"
 #include "store/bitmap_files.h"
-#include "store/preferences.h"
 #include "support/running_program.h"
-#include "support/world.h"
 #include "view/graphics.h"
 #include "view/main_window.h"
 #include "view/palette.h"
-#include "view/view_state.h"
 
 namespace quillet {
 namespace {
@@ -79,16 +70,9 @@ TEST_F(Look, TheSplashStandsAloneUntilItsTimeIsUp) {
         const Picture splash = *LoadGraphicsPicture("splash.bmp");
         const Size client = view.layout.client;
         const Size size{splash.Width(), splash.Height()};
-        if (big) {
-            const Point corner{(client.width - size.width) / 2, (client.height - size.height) / 2};
-            EXPECT_TRUE(Shows(Rect::At(corner, size), splash));
-            EXPECT_EQ(PixelAt({0, 0}), kWhite);
-        } else {
-            EXPECT_EQ(PixelAt({0, 0}), splash.image.At(0, 0));
-            EXPECT_EQ(PixelAt({client.width - 1, client.height - 1}),
-                      splash.image.At((client.width - 1) * size.width / client.width,
-                                      (client.height - 1) * size.height / client.height));
-        }
+        const Point corner{(client.width - size.width) / 2, (client.height - size.height) / 2};
+        EXPECT_TRUE(Shows(Rect::At(corner, size), splash));
+        EXPECT_EQ(PixelAt({0, 0}), big ? kWhite : splash.image.At(0, 0));
         EXPECT_FALSE(WasDrawn("select a scenario."));
         Run(3);
         EXPECT_TRUE(WasDrawn("select a scenario."));
@@ -179,34 +163,29 @@ TEST_F(Look, TheLettersLeftBoxTellsWhatTheBagHoldsOrGets) {
 
 TEST_F(Look, TheClockCountsOnInRedOnceTheTimeIsUp) {
     StartGame({"Ann", "Bob"});
-    const struct {
-        std::int32_t used;
-        const char* label;
-        const char* digits;
-    } cases[] = {{0, "Time left", "25:00"},
-                 {1439, "Time left", "1:01"},
-                 {1500, "Time left", "0:00"},
-                 {1505, "Overtime", "0:05"},
-                 {2125, "Overtime", "10:25"}};
+    const std::tuple<int, const char*, const char*> cases[] = {{0, "Time left", "25:00"},
+                                                               {1439, "Time left", "1:01"},
+                                                               {1500, "Time left", "0:00"},
+                                                               {1505, "Overtime", "0:05"},
+                                                               {2125, "Overtime", "10:25"}};
     Redraw();
     EXPECT_FALSE(WasDrawn("Time left"));
     preferences.timerEnabled = true;
-    for (const auto& c : cases) {
-        game.players[1].timeUsed = c.used;
+    for (const auto& [used, label, digits] : cases) {
+        game.players[1].timeUsed = used;
         Redraw();
-        EXPECT_TRUE(WasDrawn(c.label) && WasDrawn(c.digits)) << c.used;
-        EXPECT_EQ(Count(view.layout.clockRow, kDarkRed) > 0, c.used > 1500) << c.used;
+        EXPECT_TRUE(WasDrawn(label) && WasDrawn(digits)) << used;
+        EXPECT_EQ(Count(view.layout.clockRow, kDarkRed) > 0, used > 1500) << used;
     }
 }
 
-// The picture in the information panel: 1 to 5 are Pip's moods, 0 is nobody.
 TEST_F(Look, ComputersShowHowTheyFeel) {
     StartGame({"Ann", "Pip 3"});
     const auto shown = [] {
         ClearStatusLines(1);
         Redraw();
-        const auto& pictures =
-            opponentTable.entries[static_cast<std::size_t>(game.players[2].opponent)].pictures;
+        const int opponent = game.players[2].opponent;
+        const auto& pictures = opponentTable.entries[static_cast<std::size_t>(opponent)].pictures;
         for (int mood = 1; mood <= kNumMoods; ++mood) {
             if (Shows(view.layout.infoPanel, *pictures[mood])) return mood;
         }
@@ -214,24 +193,19 @@ TEST_F(Look, ComputersShowHowTheyFeel) {
     };
     EXPECT_EQ(shown(), 0);
     game.currentPlayer = 2;
-    const struct {
-        int ann, pip, mood;
-    } turns[] = {{0, 0, 1}, {50, 0, 1}, {51, 0, 3}, {0, 50, 1}, {0, 51, 2}};
-    for (const auto& turn : turns) {
-        game.players[1].score = turn.ann;
-        game.players[2].score = turn.pip;
+    const std::tuple<int, int, int> turns[] = {{0, 0, 1}, {50, 0, 1}, {51, 0, 3}, {0, 50, 1}, {0, 51, 2}};
+    for (const auto& [ann, pip, mood] : turns) {
+        game.players[1].score = ann;
+        game.players[2].score = pip;
         RefreshForTurn();
-        EXPECT_EQ(shown(), turn.mood) << turn.ann << " to " << turn.pip;
+        EXPECT_EQ(shown(), mood) << ann << " to " << pip;
     }
     game.gameOver = true;
-    const int ends[][2] = {{2, 4}, {1, 5}, {0, 0}};
-    for (const auto& [winner, mood] : ends) {
+    for (const auto& [players, winner, mood] : {std::tuple{2, 2, 4}, {2, 1, 5}, {2, 0, 0}, {3, 1, 0}}) {
+        game.numPlayers = static_cast<std::uint16_t>(players);
         game.winner = static_cast<std::uint16_t>(winner);
-        EXPECT_EQ(shown(), mood) << "player " << winner << " wins";
+        EXPECT_EQ(shown(), mood) << "player " << winner << " of " << players << " wins";
     }
-    game.numPlayers = 3;
-    game.winner = 1;
-    EXPECT_EQ(shown(), 0) << "not the only loser";
 }
 
 TEST_F(Look, TheButtonsAreThoseOfWhoIsToMove) {
@@ -263,58 +237,44 @@ TEST_F(Look, AComputersRackHidesItsLettersAndValues) {
     GiveRack(2, "QZ");
     const auto slot = [](int number) {
         const Rect rect = view.layout.RackSlotRect(number);
-        Image image(rect.Width(), rect.Height());
-        for (int y = 0; y < image.height; ++y) {
-            for (int x = 0; x < image.width; ++x) image.At(x, y) = PixelAt({rect.left + x, rect.top + y});
+        std::vector<Colour> pixels;
+        for (int y = rect.top; y < rect.bottom; ++y) {
+            for (int x = rect.left; x < rect.right; ++x) pixels.push_back(PixelAt({x, y}));
         }
-        return image;
+        return pixels;
     };
     Redraw();
-    EXPECT_FALSE(slot(1) == slot(2));
+    EXPECT_NE(slot(1), slot(2));
     preferences.showComputerLetters = false;
     Redraw();
-    EXPECT_TRUE(slot(1) == slot(2));
+    EXPECT_EQ(slot(1), slot(2));
     preferences.showComputerLetters = true;
     GiveRack(2, "??");
     preferences.showLetterValues = false;
-    const Image hidden = slot(1);
+    const auto hidden = slot(1);
     Redraw();
-    EXPECT_TRUE(slot(1) == hidden) << "hidden letters look like blanks without a value";
+    EXPECT_EQ(slot(1), hidden) << "hidden letters look like blanks without a value";
 }
 
 TEST_F(Look, TheScoreIsShownOnceTheTilesMayBeAMove) {
     StartGame({"Ann", "Bob"});
     GiveRack(1, "CATSDOG");
     const GameState begun = game;
-    const struct {
-        const char* state;
-        std::function<void()> place;
-        const char* line;
-    } cases[] = {
+    const std::tuple<const char*, std::function<void()>, const char*> cases[] = {
         {"nothing", [] {}, ""},
-        {"one tile in the start row", [] { PutTiles(8, 2, "C"); }, "Score = "},
-        {"one tile in the start column", [] { PutTiles(3, 8, "C"); }, "Score = "},
+        {"one tile in the start row", [] { PutTiles(8, 2, "C"); }, "Score = 3"},
+        {"one tile in the start column", [] { PutTiles(3, 8, "C"); }, "Score = 3"},
         {"one tile elsewhere", [] { PutTiles(7, 7, "C"); }, "Score = ?"},
         {"a row beside the start", [] { PutTiles(7, 7, "CAT"); }, "Score = ?"},
         {"a row", [] { PutTiles(8, 7, "CAT"); }, "Score = 10"},
         {"no line", [] { PutTiles(8, 7, "CA/T."); }, "Score = ?"},
         {"thrown back", [] { game.thrownBack = "C"; }, "Score = 0"},
-        {"both",
-         [] {
-             game.thrownBack = "C";
-             PutTiles(8, 8, "A");
-         },
-         "Score = ?"},
+        {"both", [] { game.thrownBack = "C", PutTiles(8, 8, "A"); }, "Score = ?"},
     };
-    for (const auto& c : cases) {
-        c.place();
+    for (const auto& [state, place, line] : cases) {
+        place();
         UpdateScorePreview();
-        const std::string line(game.statusLines[2].View());
-        if (std::string_view(c.line) == "Score = ") {
-            EXPECT_TRUE(line.starts_with(c.line) && line != "Score = ?") << c.state << ": " << line;
-        } else {
-            EXPECT_EQ(line, c.line) << c.state;
-        }
+        EXPECT_EQ(game.statusLines[2], line) << state;
         game = begun;
     }
 }

@@ -1,70 +1,56 @@
 // Tiles under the person's hand: dragged, typed, swapped, thrown back.
-#include <gtest/gtest.h>
 
 #include "base/presentation.h"
 #include "game/consistency.h"
 #include "store/preferences.h"
 #include "support/running_program.h"
-#include "support/world.h"
-#include "view/view_state.h"
 
 namespace quillet {
 namespace {
 
+// A game in which the human Ann is to move, with the rack CATSDOG.
 class Hand : public RunningProgram {
   protected:
-    // A game in which the human Ann is to move with that rack, "." for an empty slot.
+    Hand() { Begin("CATSDOG"); }
+
+    // The same with another rack; "." is an empty slot.
     void Begin(std::string_view rack) {
         StartGame({"Ann", "Bob"});
-        std::string codes;
-        for (char code : rack) codes += code == '.' ? "" : std::string(1, code);
+        std::string slots(rack);
+        std::ranges::replace(slots, '?', kBlank);
+        std::ranges::replace(slots, '.', '\0');
+        std::string codes(slots);
+        std::erase(codes, '\0');
         GiveRack(1, codes);
-        auto& slots = game.players[1].rack.positions;
-        slots = {};
-        for (std::size_t i = 0; i < rack.size(); ++i)
-            slots[i + 1] = rack[i] == '?' ? kBlank : rack[i] == '.' ? '\0' : rack[i];
+        game.players[1].rack.positions = {};
+        std::ranges::copy(slots, game.players[1].rack.positions.begin());
         headless.beeps = 0;
     }
-    void ExpectRack(const std::string& slots) {
+    static void ExpectRack(const std::string& slots) {
         std::string text;
         for (char code : game.players[1].rack.positions)
             text += code == 0 ? '.' : code == kBlank ? '?' : code;
         EXPECT_EQ(text, slots);
-        const auto problem = FindInconsistency(game);
-        EXPECT_FALSE(problem.has_value()) << *problem;
+        ExpectConsistent();
     }
-    static std::string RowText(int row, int firstCol, int count) {
+    static std::string TilesFrom(int row, int col, int rowStep, int colStep, int count) {
         std::string text;
-        for (int col = firstCol; col < firstCol + count; ++col) {
+        for (; count > 0; --count, row += rowStep, col += colStep) {
             const Square& square = game.board[row][col];
             text += square.IsEmpty() ? '.' : square.letter == kBlank ? '?' : square.letter;
         }
         return text;
     }
-    static std::string ColumnText(int col, int firstRow, int count) {
-        std::string text;
-        for (int row = firstRow; row < firstRow + count; ++row) {
-            text += game.board[row][col].IsEmpty() ? '.' : game.board[row][col].letter;
-        }
-        return text;
-    }
+    static std::string RowText(int row, int col, int count) { return TilesFrom(row, col, 0, 1, count); }
+    static std::string ColumnText(int col, int row, int count) { return TilesFrom(row, col, 1, 0, count); }
     // Puts the letters of the first slots on the board in a row, by dragging each.
     void DragRow(int row, int firstCol, int count) {
-        for (int i = 0; i < count; ++i) Drag(MiddleOfSlot(i + 1), MiddleOfSquare(row, firstCol + i));
-        Run();
+        for (int i = 0; i < count; ++i) DragTo(MiddleOfSlot(i + 1), MiddleOfSquare(row, firstCol + i));
     }
-};
-
-struct RackDrag {
-    const char* before;
-    int from;
-    int to;
-    int held;
-    const char* after;
 };
 
 TEST_F(Hand, RearrangesTheRack) {
-    const RackDrag drags[] = {
+    const std::tuple<const char*, int, int, int, const char*> drags[] = {
         {"ABCDEFG.", 2, 8, 0, "A.CDEFGB"},       // to a free slot
         {"ABCDEFG.", 3, 3, 0, "ABCDEFG."},       // back to its own
         {"ABCDEFG.", 3, 4, 0, "ABDCEFG."},       // neighbours swap
@@ -72,53 +58,38 @@ TEST_F(Hand, RearrangesTheRack) {
         {"ABCDEFG.", 3, 5, 0, "ABDECFG."},       // the gap it left is nearer
         {"ABC.EFG.", 1, 8, kShift, "BC..EFGA"},  // the run after it finds no slot to the right
     };
-    for (const RackDrag& drag : drags) {
-        SCOPED_TRACE(std::string(drag.before) + " " + std::to_string(drag.from) + " to " +
-                     std::to_string(drag.to));
-        Begin(drag.before);
-        Drag(MiddleOfSlot(drag.from), MiddleOfSlot(drag.to), drag.held);
-        Run();
-        ExpectRack(drag.after);
+    for (const auto& [before, from, to, held, after] : drags) {
+        SCOPED_TRACE(std::string(before) + " " + std::to_string(from) + " to " + std::to_string(to));
+        Begin(before);
+        DragTo(MiddleOfSlot(from), MiddleOfSlot(to), held);
+        ExpectRack(after);
     }
 }
 
-TEST_F(Hand, CarriesARunOfTheRackToTheBoard) {
-    Begin("CATSDOG");
-    Drag(MiddleOfSlot(2), MiddleOfSquare(8, 8), kShift);
-    Run();
-    EXPECT_EQ(RowText(8, 7, 7), "CATSDOG");
-    ExpectRack("........");
-}
-
 TEST_F(Hand, TurnsAWordWhereItStands) {
-    Begin("CATSDOG");
     DragRow(8, 7, 3);
     ASSERT_EQ(RowText(8, 7, 3), "CAT");
-    Drag(MiddleOfSquare(8, 8), MiddleOfSquare(8, 8), kShift);
-    Run();
+    DragTo(MiddleOfSquare(8, 8), MiddleOfSquare(8, 8), kShift);
     EXPECT_EQ(RowText(8, 7, 3), "CAT");
-    Drag(MiddleOfSquare(8, 8), MiddleOfSquare(8, 8), kShift | kControl);
-    Run();
+    DragTo(MiddleOfSquare(8, 8), MiddleOfSquare(8, 8), kShift | kControl);
     EXPECT_EQ(ColumnText(8, 7, 3), "CAT");
     ExpectRack("...SDOG.");
 }
 
-TEST_F(Hand, TilesThatFindNoSquareGoToTheRack) {
-    Begin("CATSDOG");
-    Drag(MiddleOfSlot(4), MiddleOfSquare(1, 1), kShift | kControl);
-    Run();
+TEST_F(Hand, ARunIsCarriedToTheBoardAndWhatFindsNoSquareGoesToTheRack) {
+    DragTo(MiddleOfSlot(4), MiddleOfSquare(1, 1), kShift | kControl);
     EXPECT_EQ(ColumnText(1, 1, 4), "SDOG");
     ExpectRack("TAC.....");
+    DragTo(MiddleOfSlot(2), MiddleOfSquare(8, 8), kShift);
+    EXPECT_EQ(RowText(8, 7, 3), "TAC");
+    ExpectRack("........");
 }
 
 TEST_F(Hand, NewTilesSwapAndMakeRoom) {
-    Begin("CATSDOG");
     DragRow(8, 7, 3);
-    Drag(MiddleOfSquare(8, 7), MiddleOfSquare(8, 8));
-    Run();
+    DragTo(MiddleOfSquare(8, 7), MiddleOfSquare(8, 8));
     EXPECT_EQ(RowText(8, 6, 5), ".ACT.");
-    Drag(MiddleOfSlot(4), MiddleOfSquare(8, 8));  // from the rack, onto a tile: fewer tiles to the left
-    Run();
+    DragTo(MiddleOfSlot(4), MiddleOfSquare(8, 8));  // from the rack, onto a tile: fewer tiles to the left
     EXPECT_EQ(RowText(8, 6, 5), ".ASCT");
     ExpectRack("....DOG.");
 }
@@ -145,8 +116,7 @@ TEST_F(Hand, ANewTileIsPushedWhereThereIsMostRoom) {
         for (const BoardPosition& at : testCase.fixed) FreezeTiles(at.row, at.col, "E");
         PutTiles(8, 8, "C");
         PutTiles(testCase.another.row, testCase.another.col, "A");
-        Drag(MiddleOfSlot(4), MiddleOfSquare(8, 8));
-        Run();
+        DragTo(MiddleOfSlot(4), MiddleOfSquare(8, 8));
         EXPECT_EQ(RowText(8, 6, 5), testCase.row);
         EXPECT_EQ(ColumnText(8, 6, 5), testCase.column);
         ExpectRack(testCase.row[2] == 'S' ? "..T.DOG." : "..TSDOG.");
@@ -154,18 +124,15 @@ TEST_F(Hand, ANewTileIsPushedWhereThereIsMostRoom) {
 }
 
 TEST_F(Hand, AGroupThatCannotStayReturnsToWhereItCameFrom) {
-    Begin("CATSDOG");
     for (int i = 0; i < 4; ++i) Drag(MiddleOfSlot(i + 1), MiddleOfSquare(5 + i, 2));
     Run();
     // Picked up along the column for want of neighbours in the row, and let go outside.
-    Drag(MiddleOfSquare(8, 2), MiddleOf(view.layout.infoPanel), kShift);
-    Run();
+    DragTo(MiddleOfSquare(8, 2), MiddleOf(view.layout.infoPanel), kShift);
     EXPECT_EQ(ColumnText(2, 5, 4), "CATS");
     ExpectRack("....DOG.");
 }
 
 TEST_F(Hand, TheBagTakesTilesOnlyWhileItHoldsMoreThanSix) {
-    Begin("CATSDOG");
     Drag(MiddleOfSlot(1), MiddleOf(view.layout.bagRect));
     Drag(MiddleOfSlot(3), MiddleOf(view.layout.bagRect));
     headlessWindow.textsDrawn.clear();
@@ -174,44 +141,30 @@ TEST_F(Hand, TheBagTakesTilesOnlyWhileItHoldsMoreThanSix) {
     EXPECT_TRUE(WasDrawn("Replace CT"));
     EXPECT_EQ(game.statusLines[2].View(), "Score = 0");
     ExpectRack(".A.SDOG.");
-    Click(MiddleOf(view.layout.bagRect));
-    Run();
+    ClickAt(MiddleOf(view.layout.bagRect));
     EXPECT_EQ(game.thrownBack.View(), "C");
     ExpectRack("TA.SDOG.");
 
-    Click(MiddleOf(view.layout.bagRect));
-    Run();
+    ClickAt(MiddleOf(view.layout.bagRect));
     LeaveInBag("AEIOUY");
-    Drag(MiddleOfSlot(1), MiddleOf(view.layout.bagRect));
-    Run();
+    DragTo(MiddleOfSlot(1), MiddleOf(view.layout.bagRect));
     EXPECT_TRUE(game.thrownBack.empty());
 }
 
-TEST_F(Hand, LosingTheFocusPutsTheTileBack) {
-    Begin("CATSDOG");
-    Press(MiddleOfSlot(1));
-    PostEvent({.kind = Message::Kind::PointerMoved, .at = MiddleOfSquare(8, 8)});
-    PostEvent({.kind = Message::Kind::Deactivated});
-    Run();
-    ExpectRack("CATSDOG.");
-    EXPECT_TRUE(game.StartSquareIsEmpty());
-}
-
-TEST_F(Hand, ClosingInTheMiddleOfADragClosesAfterIt) {
-    Begin("CATSDOG");
-    Press(MiddleOfSlot(1));
-    PostEvent({.kind = Message::Kind::CloseRequest});
-    Release(MiddleOfSquare(8, 8));
-    Run();
-    EXPECT_TRUE(hasEnded);
-    ExpectRack("CATSDOG.");
+TEST_F(Hand, LosingTheFocusOrClosingPutsTheTileBack) {
+    for (const auto kind : {Message::Kind::Deactivated, Message::Kind::CloseRequest}) {
+        Press(MiddleOfSlot(1));
+        PostEvent({.kind = Message::Kind::PointerMoved, .at = MiddleOfSquare(8, 8)});
+        PostEvent({.kind = kind});
+        Run();
+        ExpectRack("CATSDOG.");
+        EXPECT_EQ(hasEnded, kind == Message::Kind::CloseRequest);
+    }
 }
 
 TEST_F(Hand, FixedTilesBeep) {
-    Begin("CATSDOG");
     FreezeTiles(8, 8, "ER");
-    Click(MiddleOfSquare(8, 8));
-    Run();
+    ClickAt(MiddleOfSquare(8, 8));
     EXPECT_EQ(headless.beeps, 1);
 }
 
@@ -221,25 +174,20 @@ TEST_F(Hand, TypesAWordFromThePointerOn) {
     Begin("CATS?OG");
     FreezeTiles(8, 9, "X");
     PostEvent({.kind = Message::Kind::PointerMoved, .at = MiddleOfSquare(8, 8)});
-    TypeText("catz");  // the blank stands for the Z
-    Run();
+    Type("catz");  // the blank stands for the Z
     EXPECT_EQ(RowText(8, 8, 5), "CXAT?");
     EXPECT_EQ(headless.beeps, 0);
-    TypeText("q");
-    Run();
+    Type("q");
     EXPECT_EQ(headless.beeps, 1);
-    TypeText("\b\b");
-    Run();
+    Type("\b\b");
     EXPECT_EQ(RowText(8, 8, 5), "CXA..");
     ExpectRack("?T.S.OG.");
 }
 
 TEST_F(Hand, ArrowsTurnTypingUntilALineStands) {
-    Begin("CATSDOG");
     PostEvent({.kind = Message::Kind::PointerMoved, .at = MiddleOfSquare(8, 8)});
     PressKey(Key::Up);
-    TypeText("CAT");
-    Run();
+    Type("CAT");
     EXPECT_EQ(ColumnText(8, 6, 3), "TAC");
     PressKey(Key::Right);
     Run();
@@ -247,24 +195,19 @@ TEST_F(Hand, ArrowsTurnTypingUntilALineStands) {
 }
 
 TEST_F(Hand, ADirectionAcrossTheLineGoesOnForwards) {
-    Begin("CATSDOG");
     DragRow(8, 7, 2);
     view.typingDirection = Direction::Up;
-    TypeText("T");
-    Run();
+    Type("T");
     EXPECT_EQ(RowText(8, 7, 3), "CAT");
     EXPECT_EQ(view.typingDirection, Direction::Right);
 }
 
 TEST_F(Hand, ScatteredTilesTakeNoTypedLetter) {
-    Begin("CATSDOG");
     Drag(MiddleOfSlot(1), MiddleOfSquare(2, 2));
     Drag(MiddleOfSlot(2), MiddleOfSquare(5, 9));
-    TypeText("T");
-    Run();
-    EXPECT_EQ(TakeMessages(), std::vector<std::string>{"Added letters must be in a straight line."});
-    TypeText("\b");
-    Run();
+    Type("T");
+    EXPECT_THAT(TakeMessages(), ElementsAre("Added letters must be in a straight line."));
+    Type("\b");
     EXPECT_TRUE(game.board[5][9].IsEmpty());
     ExpectRack("A.TSDOG.");
 }
@@ -291,37 +234,20 @@ TEST_F(Hand, EveryTilePutOnTheBoardClicksAndNothingElseDoes) {
 // --- Panels ---
 
 TEST_F(Hand, PressingMixOutsideOfItsReleaseDoesNothing) {
-    Begin("CATSDOG");
     Press(MiddleOf(view.layout.mixButton));
     Release({5, 5}, 100);
     Run();
     ExpectRack("CATSDOG.");
     EXPECT_TRUE(headlessWindow.sounds.empty());
-    Click(MiddleOf(view.layout.mixButton));
-    Run();
+    ClickAt(MiddleOf(view.layout.mixButton));
     EXPECT_EQ(headlessWindow.sounds.size(), 1U);
 }
 
 TEST_F(Hand, ControlClicksSwitchBoardSizeAndValues) {
-    Begin("CATSDOG");
-    Click(MiddleOf(view.layout.infoPanel), kControl);
-    Run();
+    ClickAt(MiddleOf(view.layout.infoPanel), kControl);
     EXPECT_EQ(headlessWindow.canvas.Extent(), kSmallBoard.client);
-    EXPECT_EQ(ReadFile("Data/Prefs/1000.str"), "F");
-    Click(MiddleOf(view.layout.lettersLeftBox), kControl);
-    Run();
-    EXPECT_FALSE(preferences.showLetterValues);
-}
-
-TEST_F(Hand, DoneFinishesTheTurnAndDrawsNewTiles) {
-    Begin("CATSDOG");
-    DragRow(8, 7, 3);
-    EXPECT_EQ(game.statusLines[2].View(), "Score = 10");
-    Click(MiddleOf(view.layout.doneButton));
-    Run();
-    EXPECT_EQ(game.history.movesCount, 1);
-    EXPECT_EQ(game.currentPlayer, 2);
-    EXPECT_EQ(FindInconsistency(game), std::nullopt);
+    ClickAt(MiddleOf(view.layout.lettersLeftBox), kControl);
+    EXPECT_FALSE(preferences.bigBoard || preferences.showLetterValues);
 }
 
 }  // namespace

@@ -1,7 +1,5 @@
 #include "words/bonus_words.h"
 
-#include <gmock/gmock.h>
-
 #include "support/temp_folder.h"
 
 namespace quillet {
@@ -21,11 +19,11 @@ using BonusWordsFile = TempFolder;
 TEST_F(BonusWordsFile, IsReadLineByLine) {
     std::string many;
     for (int i = 0; i < 120; ++i) many += "A\r\n";
-    const std::pair<std::string, std::vector<std::string>> cases[] = {
+    const std::pair<std::string, Strings> cases[] = {
         {"QUIZ\r\nAXE\r\n", {"QUIZ", "AXE"}},
         {"ABCDEFGHIJKLMNOPQRST\r\nquiz\r\nAXE", {"ABCDEFGHIJKLMNOP", "quiz", "AXE"}},
         {std::string("QUIZ\0X\r\nAXE\r\n", 13), {"QUIZ", "AXE"}},
-        {many, std::vector<std::string>(100, "A")},
+        {many, Strings(100, "A")},
         {"", {}},
     };
     for (const auto& [contents, words] : cases) {
@@ -44,8 +42,7 @@ TEST_F(BonusWordsFile, HoldsEachWordWithALineEnd) {
     bonusWords = {"AXE", "QUIZ", "", "STALE"};
     EXPECT_TRUE(WriteBonusWords("Scenarios\\Mine") && !WriteBonusWords("Scenarios\\Gone"));
     EXPECT_EQ(ReadFile("Scenarios/Mine/602.str"), "AXE\r\nQUIZ\r\n");
-    EXPECT_THAT(TakeMessages(),
-                testing::ElementsAre("Couldn't create bonus words file: Scenarios\\Gone\\602.str"));
+    EXPECT_THAT(TakeMessages(), ElementsAre("Couldn't create bonus words file: Scenarios\\Gone\\602.str"));
 }
 
 }  // namespace

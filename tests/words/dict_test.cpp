@@ -1,11 +1,7 @@
 #include "words/dict.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <random>
 #include <set>
-#include <string>
 
 #include "base/messages.h"
 #include "support/temp_folder.h"
@@ -14,9 +10,7 @@
 namespace quillet {
 namespace {
 
-using testing::ElementsAre;
-
-Dict DictOf(const std::vector<std::string>& words) {
+Dict DictOf(const Strings& words) {
     Dict dict;
     MakeStore(dict, 0);
     for (const std::string& word : words) AddWord(dict, word);

@@ -1,11 +1,7 @@
 #include "words/word_list_editing.h"
 
-#include <gmock/gmock.h>
-
 #include "base/idle_pump.h"
-#include "store/preferences.h"
-#include "support/recording_presentation.h"
-#include "support/temp_folder.h"
+#include "support/world.h"
 #include "words/bonus_words.h"
 #include "words/graph_check.h"
 #include "words/word_list_builder.h"
@@ -13,19 +9,10 @@
 namespace quillet {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
-class WordListEditing : public TempFolder {
+class WordListEditing : public World {
   protected:
     WordListEditing() {
-        recorded = {};
-        pump = {};
-        mainDict = {};
-        wordList = {.current = "Mine"};
-        preferences = {};
-        ClosePrefs();
-        MakeFolder("Data/Prefs");
+        wordList.current = "Mine";
         LoadPreferences();
         MakeFolder("Word Lists");
     }
@@ -77,20 +64,13 @@ TEST_F(WordListEditing, NamesOfNewListsAreChecked) {
 TEST_F(WordListEditing, NewListIsEmptyCurrentAndRemembered) {
     AddWord(mainDict, "OLD");
     EXPECT_EQ(Verdict(CreateWordList("no\\such")), "Could not create the new word list! from 0");
+    EXPECT_EQ(Verdict(SaveWordListAs("no\\such")), "Could not save that word list! from 0");
     EXPECT_EQ(Words(), "old ");
     EXPECT_EQ(Verdict(CreateWordList("New")), "ok");
     EXPECT_EQ(ReadFile("Word Lists/New.qld"), "\x02" + std::string(299, '\0'));
     EXPECT_TRUE(mainDict.numwords == 0 && mainDict.spareEdges == 20000 && !DictChanged(mainDict));
     EXPECT_EQ(wordList.current, "New");
     EXPECT_EQ(ReadFile("Data/Prefs/3001.str"), "New");
-}
-
-TEST_F(WordListEditing, SavingUnderAnotherNameKeepsListAndChanges) {
-    AddWord(mainDict, "CAT");
-    EXPECT_EQ(Verdict(SaveWordListAs("no\\such")), "Could not save that word list! from 0");
-    EXPECT_EQ(Verdict(SaveWordListAs("Other")), "ok");
-    EXPECT_EQ(ReadFile("Word Lists/Other.qld").size(), 312U);
-    EXPECT_TRUE(wordList.current == "Mine" && DictChanged(mainDict));
 }
 
 TEST_F(WordListEditing, ChangesAreSavedOrForgottenOnlyWhenThereAreSome) {
@@ -170,19 +150,6 @@ TEST_F(WordListEditing, ImportCountsTheWordsThatAreNew) {
                             "SetStatusProgress 0 19", "CloseStatus", "ShowArrowCursor"));
     AddFromTextFile("gone.txt");
     EXPECT_THAT(TakeMessages(), ElementsAre("Cannot open \"gone.txt\""));
-}
-
-TEST_F(WordListEditing, ImportShowsItsProgressAndStopsWithWhatItHas) {
-    pump.idleHook = [] {
-        headless.tick += 100;
-        pump.abortRequested = recorded.Count("SetStatusProgress") >= 3;
-    };
-    std::string text;
-    for (std::size_t i = 0; i < 1000; ++i) text += "w" + std::string(1 + i % 14, 'o') + "\r\n";
-    Import(text + "last");
-    EXPECT_GT(mainDict.numwords, 5);
-    EXPECT_FALSE(IsWord(mainDict, "LAST"));
-    EXPECT_EQ(recorded.Count("SetStatusWindowLine 3 WO"), 2);
 }
 
 TEST_F(WordListEditing, ImportIntoAFullListTakesWhatFits) {

@@ -1,22 +1,10 @@
 #include "words/word_list_file.h"
 
-#include <gmock/gmock.h>
-
-#include <random>
-#include <tuple>
-
-#include "base/messages.h"
-#include "store/preferences.h"
-#include "support/recording_presentation.h"
-#include "support/temp_folder.h"
+#include "support/world.h"
 #include "words/dict.h"
-#include "words/word_list_builder.h"
 
 namespace quillet {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 // The list of AB, AC and B.
 std::string SmallFile() {
@@ -27,15 +15,9 @@ std::string SmallFile() {
 
 std::string EmptyFile() { return "\x02" + std::string(299, '\0'); }
 
-class WordListFile : public TempFolder {
+class WordListFile : public World {
   protected:
     WordListFile() {
-        recorded = {};
-        mainDict = {};
-        wordList = {};
-        preferences = {};
-        ClosePrefs();
-        MakeFolder("Data/Prefs");
         LoadPreferences();
         MakeFolder("Word Lists");
     }
@@ -92,30 +74,6 @@ TEST_F(WordListFile, CutOffAnywhereEndsUnexpectedly) {
         WriteList("Small", SmallFile().substr(0, size));
         EXPECT_THROW(LoadWordList("Small"), ProgramEnd);
         EXPECT_THAT(TakeMessages(), ElementsAre("\"Small\" ended unexpectedly!")) << size;
-    }
-}
-
-// Whatever is in the file: it loads and its words can be walked, or the program ends with one message.
-TEST_F(WordListFile, RandomDamageNeverGetsIntoMemory) {
-    BuildDict(mainDict, {"AT", "ATE", "BAT", "BATE", "BATED", "CAT", "CATS", "DOG", "ZOO"});
-    SaveWordList("Sound");
-    const std::string sound = ListBytes("Sound");
-    std::mt19937 random(11);
-    for (int round = 0; round < 3000; ++round) {
-        std::string bytes = sound;
-        for (auto damage = random() % 3; damage < 3; ++damage) {
-            char& byte = bytes[bytes.size() - 1 - random() % (random() % 2 == 0 ? bytes.size() : 60)];
-            byte = static_cast<char>(random() % 4 == 0 ? random() : unsigned(byte) ^ 1U << random() % 8);
-        }
-        WriteList("Sound", bytes);
-        try {
-            LoadWordList("Sound");
-        } catch (const ProgramEnd&) {
-            EXPECT_EQ(TakeMessages().size(), 1U);
-        }
-        for (std::int32_t n = 0; n < mainDict.numwords; ++n) {
-            EXPECT_EQ(FindWordIndex(mainDict, GetWord(mainDict, n)), n);
-        }
     }
 }
 
@@ -211,7 +169,7 @@ TEST_F(WordListFile, ScenariosWishIsFollowedAndTakenBack) {
 }
 
 TEST_F(WordListFile, ShippedListsAreSoundAndSensible) {
-    SetDataFolder((std::filesystem::path(__FILE__).parent_path() / "../../assets").string());
+    SetDataFolder(QUILLET_ASSETS);
     for (const char* name : {"Common", "Words", "Large"}) {
         ASSERT_TRUE(LoadWordList(name));
         for (const char* word : {"CAT", "CATS", "PLAYED", "QUIZZES", "COLOR", "COLOURS", "OK"}) {
