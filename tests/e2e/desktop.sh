@@ -172,6 +172,18 @@ square() { echo "$(col_x "$2")" "$(row_y "$1")"; } # ROW COLUMN
 drag_to_square() { drag "$(slot_x "$1")" $slot_y $(square "$2" "$3"); } # SLOT ROW COLUMN
 press_done() { click_at "${done_button[@]}"; }
 
+# choose_players [KEY...]: starts a game of Ann and of whom the keys choose in the dialog.
+choose_players() {
+    keys ctrl+n
+    dialog_is "Choose Players"
+    type_text Ann
+    (($# == 0)) || keys "$@"
+    screen choose_players
+    keys Return
+    dialog_ends "Choose Players"
+    wait_for 10 has_tile "$(slot_x 1)" $slot_y || fail "no tiles on the rack"
+}
+
 # take_turn TURN: the computer moves, or the person makes the highest scoring move; until the kept game shows it. Keys
 # are lost while a computer player is congratulated or letters are thrown back, so it is tried again, slower.
 take_turn() {

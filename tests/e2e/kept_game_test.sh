@@ -12,11 +12,7 @@ kill_quillet() {
 }
 
 start_quillet
-keys ctrl+n
-dialog_is "Choose Players"
-type_text Ann
-keys Return
-wait_for 5 has_focus Quillet || fail "the game did not start"
+choose_players
 drag "$(slot_x 1)" $slot_y "${bag[@]}"
 keys 0
 wait_for 10 grep -q '^moves = 1' "$kept" || fail "the game is not kept"

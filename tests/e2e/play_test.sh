@@ -10,13 +10,8 @@ start_story "$@"
 # --- The first minute ---
 
 start_quillet
-keys ctrl+n
-dialog_is "Choose Players"
-type_text Ann
-keys Return
-wait_for 5 has_focus Quillet || fail "the game did not start"
+choose_players
 picture first_game
-wait_for 5 has_tile "$(slot_x 1)" $slot_y || fail "no tiles on the rack"
 [[ $(cat "$data/Data/Prefs/201.str") == Ann ]] || fail "the player's name was not kept"
 keys ctrl+q
 wait_for 10 test ! -d /proc/"$quillet_pid" || fail "Quillet did not end"

@@ -10,15 +10,7 @@ start_story "$@"
 done_shows() { is_light 276 20; }
 
 start_quillet
-keys ctrl+n
-dialog_is "Choose Players"
-type_text Ann
-keys alt+2 # the second player's kind: the eighth in the list is Strix
-keys S
-sleep 0.3
-keys Tab 9
-keys Return
-wait_for 5 has_focus Quillet || fail "the game did not start"
+choose_players alt+2 S Tab 9 # Strix
 keys alt+o
 keys m # the computer moves without being told
 for ((turn = 1; turn <= 60; ++turn)); do

@@ -24,17 +24,7 @@ save_as() {
 # --- Players ---
 
 start_quillet
-keys ctrl+n
-dialog_is "Choose Players"
-type_text Ann
-keys alt+2 S Tab 9 # Strix
-keys alt+3 H
-type_text Bob
-keys alt+4 P Tab 3 # Pip
-screen choose_players
-keys Return
-dialog_ends "Choose Players"
-wait_for 5 has_tile "$(slot_x 1)" $slot_y || fail "no tiles on the rack"
+choose_players alt+2 S Tab 9 alt+3 H B O B alt+4 P Tab 3 # Strix, BOB, Pip
 for turn in {1..4}; do take_turn "$turn"; done
 picture four_players
 # Strix makes way for a human player.
