@@ -81,6 +81,7 @@ TEST_F(SavedGame, OddFilesThatStillTellAGameAreOpened) {
         // the file, its first player, and the warning
         {"% hello\r\n%\r\n" + kGood, "Ada L", ""},
         {With(1, "3"), "Ada L", "Unexpected version number in game file."},
+        {With(3, "5000"), "Ada L", ""},
         {With(4, std::string(28, '1')), "Ada L", "Bad letter values!"},
         {With(5, "9224<2329114268216464221212 "), "Ada L", "Bad letter counts!"},
         {With(10, std::string(226, '.')), "Ada L", "Bad board squares!"},
@@ -95,6 +96,7 @@ TEST_F(SavedGame, OddFilesThatStillTellAGameAreOpened) {
         EXPECT_EQ(TakeMessages(), Strings(warning.empty() ? 0 : 1, warning));
         EXPECT_EQ(game.players[1].name, firstPlayer);
         EXPECT_LE(game.numPlayers, 4);
+        EXPECT_LE(game.settings.sevenLetterBonus, 999);
         OpenGameReplay();
     }
     EXPECT_EQ(game.history.records[1].time, 0) << "of version 1";

@@ -124,7 +124,7 @@ TEST_F(History, LinesStandInTheirColumns) {
     history.records[1].numTiles = 3;
     history.records[2] = Record(2, "{}", "", 0, 1530);
     history.records[3] = Record(1, "{Q[}", "AB", 0, 1495);
-    history.records[12] = Record(1, "[A[B[C[D[EFG", "", 1234, 1500);
+    history.records[12] = Record(1, "[A[B[C[D[EFG", "", 1234, 1490);
     history.records[12].numTiles = 7;
     history.movesCount = 1;
     history.redoCount = 11;
@@ -139,7 +139,7 @@ TEST_F(History, LinesStandInTheirColumns) {
     };
     EXPECT_THAT(lines(1), ElementsAre("1|1     C(A)T                8       24:00",   //
                                       "3|3   + replaced Q?          0        0:05",   //
-                                      "12|12  + (A)(B)(C)(D)(E)FG 1234        0:00",  //
+                                      "12|12  + (A)(B)(C)(D)(E)FG 1234        0:10",  //
                                       "13|      Redo all moves."));
     EXPECT_EQ(lines(2)[0], "2|2   \xB7 passed               0       +0:30");
     preferences.timerEnabled = false;

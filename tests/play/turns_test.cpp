@@ -85,6 +85,7 @@ TEST_F(Turns, RefusedPlacementsStayOnTheBoardAndCostNothing) {
 
 TEST_F(Turns, FirstPassIsQuestionedWhileAnExchangeIsPossible) {
     StartGame({"Ada", "Bo"});
+    LeaveInBag("ABCDEFG");
     Finish();
     EXPECT_EQ(headless.questions.front().text,
               "Are you sure you want to pass rather than throw back letters?");

@@ -121,6 +121,8 @@ TEST_F(Hand, ANewTileIsPushedWhereThereIsMostRoom) {
         EXPECT_EQ(ColumnText(8, 6, 5), testCase.column);
         ExpectRack(testCase.row[2] == 'S' ? "..T.DOG." : "..TSDOG.");
     }
+    DragTo(MiddleOfSquare(1, 1), MiddleOfSquare(8, 8));
+    EXPECT_EQ(RowText(1, 1, 2) + RowText(8, 7, 3), "A.ECE") << "no room for a tile of the board either";
 }
 
 TEST_F(Hand, AGroupThatCannotStayReturnsToWhereItCameFrom) {
