@@ -261,16 +261,8 @@ bool DropOnNewTile(const TileGroup& group, BoardPosition target) {
         SwapOnBoard(group, target);
         return true;
     }
-    if (group.FromRack()) {
-        if (!MakeRoom(target, group.letter)) return false;
-        EmptyOrigin(group);
-        return true;
-    }
-    const Square origin = SquareOf(group.square);
-    EmptyOrigin(group);
-    if (MakeRoom(target, group.letter)) return true;
-    SquareOf(group.square) = origin;
-    return false;
+    EmptyOrigin(group);  // a square that it leaves is room, too
+    return MakeRoom(target, group.letter);
 }
 
 void DropOnSquare(const TileGroup& group, BoardPosition target) {

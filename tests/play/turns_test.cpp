@@ -87,6 +87,7 @@ TEST_F(Turns, FirstPassIsQuestionedWhileAnExchangeIsPossible) {
     StartGame({"Ada", "Bo"});
     LeaveInBag("ABCDEFG");
     Finish();
+    ASSERT_THAT(headless.questions, SizeIs(1));
     EXPECT_EQ(headless.questions.front().text,
               "Are you sure you want to pass rather than throw back letters?");
     EXPECT_FALSE(headless.questions.front().yesIsDefault);
