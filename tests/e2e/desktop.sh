@@ -28,7 +28,7 @@ start_desktop() {
 }
 
 end_desktop() {
-    kill -9 ${quillet_pid:-} 2>/dev/null || true
+    { kill -9 ${quillet_pid:-} && wait $quillet_pid; } 2>/dev/null || true
     kill "$xvfb_pid" 2>/dev/null || true
     rm -rf "$work"
 }
