@@ -282,12 +282,17 @@ struct ByteWriter {
     }
 };
 
+constexpr std::uint32_t kPixelsAt = kFileHeaderSize + kInfoHeaderSize;
+
+// In bytes. More than the rows take, unless the width is a multiple of 8.
+std::uint32_t ImageSize(const Image& image) {
+    return static_cast<std::uint32_t>(image.width + 7) / 8 * 24 * static_cast<std::uint32_t>(image.height);
+}
+
 void PutHeaders(ByteWriter& writer, const Image& image) {
-    constexpr std::uint32_t kPixelsAt = kFileHeaderSize + kInfoHeaderSize;
     const auto width = static_cast<std::uint32_t>(image.width);
     const auto height = static_cast<std::uint32_t>(image.height);
-    // More than the rows take, unless the width is a multiple of 8; readers go by the width.
-    const std::uint32_t imageSize = (width + 7) / 8 * 24 * height;
+    const std::uint32_t imageSize = ImageSize(image);
     struct Field {
         std::uint32_t value;
         int size;
@@ -308,6 +313,8 @@ ByteWriter Written(const Image& image) {
         for (int x = 0; x < image.width; ++x) writer.Put(image.At(x, y), 3);
         writer.Put(0, padding);
     }
+    // Other programs refuse a file that is shorter than its header says.
+    writer.bytes.resize(kPixelsAt + ImageSize(image));
     return writer;
 }
 

@@ -68,6 +68,7 @@ timeout 5 xclip -selection clipboard -t image/png -o >"$work/copied.png"
 [[ $(identify -format %wx%h "$work/copied.png") == 26x26 ]] || fail "no picture came out: $(identify "$work/copied.png")"
 click_at "${save_button[@]}"
 wait_for 5 has_items "400=11 401=13 500=7 501=7" || fail "the board was not saved: $(items 400 401 500 501)"
+[[ $(convert "$mine/b202.bmp" -scale 1x1 -depth 8 txt:-) == *'#FF0000'* ]] || fail "the pasted picture was not saved"
 [[ $(tr -d . <"$mine/402.str") == PP1 ]] || fail "other squares were saved: $(cat "$mine/402.str")"
 
 # --- Letters, bonus words, the text ---
@@ -113,9 +114,26 @@ screen board_editor_in_a_game
 click_at "${cancel_button[@]}"
 sleep 0.5
 [[ $(look) == "$shown" && $(cat "$kept") == "$before" ]] || fail "cancelling changed the game"
-click_at "${bonus_words_box[@]}"
-sleep 0.5
-picture bonus_words_view
-click_at 5 460
+
+# --- The views ---
+
+# view_opens NAME X Y [BUTTON]: at a quick click there, and closes at the next
+view_opens() {
+    click_at "$2" "$3" "${4:-1}"
+    sleep 0.3
+    picture "$1"
+    [[ $(look) != "$shown" ]] || fail "no $1"
+    click_at 5 460
+    sleep 0.3
+    [[ $(look) == "$shown" ]] || fail "the $1 leaves something behind"
+}
+view_opens bonus_words_view "${bonus_words_box[@]}"
+view_opens bag_view "${bag_box[@]}"
+view_opens history_view 217 "$(player_y 1)"
+view_opens swap_view "$(slot_x 1)" $slot_y 3
+click_at "${statistics_box[@]}"
+dialog_is Quillet # no game was finished
+keys Return
+wait_for 5 window_is_back || fail "the warning stays open"
 take_turn 2
 echo "a scenario made and played: all as it should be"

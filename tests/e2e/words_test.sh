@@ -9,9 +9,7 @@ start_story "$@"
 lists="$data/Word Lists"
 
 words_in() { "$companion" wordlist info "$lists/$1.qld" | awk '/words/ { print $2; exit }'; }
-
-has_words() { [[ $(words_in "$1") == "$2" ]]; } # LIST COUNT
-
+has_words() { [[ $(words_in "$1") == "$2" ]]; }   # LIST COUNT
 has_lines() { [[ $(wc -l <"$2") == "$1" ]]; } # COUNT FILE
 save_as() {
     menu w a
@@ -20,12 +18,23 @@ save_as() {
     keys Return
     dialog_ends "Save As"
 }
+# text_file NAME: of the words on standard input, as "Add from Text File" takes them
+text_file() { tr '[:upper:]' '[:lower:]' | sed 's/$/\r/' >"$work/$1.txt"; }
+add_from() {
+    menu w t
+    dialog_is "Add from Text File"
+    type_text "$work/$1.txt"
+    keys Return
+    dialog_ends "Add from Text File"
+}
+has_players() { wait_for 5 grep -q "^players = $1" "$kept" || fail "not $1: $(grep '^players' "$kept")"; }
 
 # --- Players ---
 
 start_quillet
 choose_players alt+2 S Tab 9 alt+3 H B O B alt+4 P Tab 3 # Strix, BOB, Pip
 for turn in {1..4}; do take_turn "$turn"; done
+has_players 'Ann "Strix 9" BOB "Pip 3"'
 picture four_players
 # Strix makes way for a human player.
 xdotool keydown ctrl
@@ -37,6 +46,7 @@ keys alt+p H
 type_text Cleo
 keys Return
 dialog_ends "Change One Player"
+has_players 'Ann Cleo BOB "Pip 3"'
 picture changed_player
 
 # --- A word list ---
@@ -47,15 +57,6 @@ screen new_word_list
 type_text Club
 keys Return
 dialog_ends "New Word List"
-# text_file NAME: of the words on standard input, as "Add from Text File" takes them
-text_file() { tr '[:upper:]' '[:lower:]' | sed 's/$/\r/' >"$work/$1.txt"; }
-add_from() {
-    menu w t
-    dialog_is "Add from Text File"
-    type_text "$work/$1.txt"
-    keys Return
-    dialog_ends "Add from Text File"
-}
 "$companion" wordlist dump "$lists/Large.qld" >"$work/words"
 shuf --random-source=<(yes) -n 200000 "$work/words" | text_file many
 add_from many
@@ -100,7 +101,7 @@ added=$(words_in Cut)
 menu w r # revert
 dialog_is Quillet
 keys Return
-wait_for 2 window_is_back
+wait_for 2 window_is_back || fail "the question stays open"
 save_as Whole
 has_words Whole 200001 || fail "the reverted list has $(words_in Whole) words"
 menu w f # dump
